@@ -17,7 +17,15 @@
 //   4     background painted (on by default)
 //   5     state colours follow hover, press and focus (on by default)
 struct BRISEL_EXPORT BzCSSData {
-    enum Switch { BorderTop = 0, BorderRight, BorderBottom, BorderLeft, PaintBackground, FollowState, SwitchCount };
+    enum Switch {
+        BorderTop = 0,
+        BorderRight,
+        BorderBottom,
+        BorderLeft,
+        PaintBackground,
+        FollowState,
+        SwitchCount
+    };
 
     QString backgroundColorSet;
     QString borderColorSet;

@@ -19,8 +19,7 @@ public:
 namespace {
 
 // Line and column (1-based) of a byte offset in a document.
-void positionOf(const QByteArray& json, qsizetype offset, int* line, int* column)
-{
+void positionOf(const QByteArray& json, qsizetype offset, int* line, int* column) {
     offset = std::clamp<qsizetype>(offset, 0, json.size());
     const qsizetype lineStart = json.lastIndexOf('\n', offset - 1) + 1;
     *line = int(json.left(offset).count('\n')) + 1;
@@ -28,8 +27,7 @@ void positionOf(const QByteArray& json, qsizetype offset, int* line, int* column
 }
 
 BzTheme::Problem problemAt(const QByteArray& json, BzTheme::Problem::Kind kind, const QString& key,
-                           const QString& message)
-{
+                           const QString& message) {
     BzTheme::Problem p;
     p.kind = kind;
     p.key = key;
@@ -43,13 +41,13 @@ BzTheme::Problem problemAt(const QByteArray& json, BzTheme::Problem::Kind kind, 
 
 } // namespace
 
-BzTheme::BzTheme() : d(new BzThemeData) {}
+BzTheme::BzTheme()
+    : d(new BzThemeData) {}
 BzTheme::BzTheme(const BzTheme& other) = default;
 BzTheme& BzTheme::operator=(const BzTheme& other) = default;
 BzTheme::~BzTheme() = default;
 
-QColor BzTheme::parseColor(const QString& text)
-{
+QColor BzTheme::parseColor(const QString& text) {
     const QString t = text.trimmed();
     if (t.compare(QLatin1String("transparent"), Qt::CaseInsensitive) == 0)
         return QColor(0, 0, 0, 0);
@@ -70,16 +68,14 @@ QColor BzTheme::parseColor(const QString& text)
     return QColor::fromString(t);
 }
 
-QString BzTheme::formatColor(const QColor& color)
-{
+QString BzTheme::formatColor(const QColor& color) {
     const QString rgb = color.name(QColor::HexRgb);
     if (color.alpha() == 255)
         return rgb;
     return rgb + QStringLiteral("%1").arg(color.alpha(), 2, 16, QLatin1Char('0'));
 }
 
-std::optional<BzTheme> BzTheme::fromJson(const QByteArray& json, QList<Problem>* problems)
-{
+std::optional<BzTheme> BzTheme::fromJson(const QByteArray& json, QList<Problem>* problems) {
     QList<Problem> found;
     auto fail = [&]() -> std::optional<BzTheme> {
         if (problems)
@@ -98,7 +94,8 @@ std::optional<BzTheme> BzTheme::fromJson(const QByteArray& json, QList<Problem>*
         return fail();
     }
     if (!doc.isObject()) {
-        found.append(problemAt(json, Problem::Structure, QString(), QStringLiteral("the document is not an object")));
+        found.append(
+            problemAt(json, Problem::Structure, QString(), QStringLiteral("the document is not an object")));
         return fail();
     }
     const QJsonObject root = doc.object();
@@ -159,8 +156,9 @@ std::optional<BzTheme> BzTheme::fromJson(const QByteArray& json, QList<Problem>*
             for (auto s = object.begin(); s != object.end(); ++s) {
                 if (BzColorSet::stateFromName(s.key()) == BzColorSet::StateCount) {
                     ok = false;
-                    found.append(problemAt(json, Problem::Structure, name,
-                                           QStringLiteral("\"%1\": unknown state \"%2\"").arg(name, s.key())));
+                    found.append(
+                        problemAt(json, Problem::Structure, name,
+                                  QStringLiteral("\"%1\": unknown state \"%2\"").arg(name, s.key())));
                 }
             }
             parseInto(0, object.value(QLatin1String("normal")));
@@ -172,13 +170,14 @@ std::optional<BzTheme> BzTheme::fromJson(const QByteArray& json, QList<Problem>*
                     parseInto(s, v);
             }
         } else {
-            found.append(problemAt(json, Problem::Structure, name,
-                                   QStringLiteral("\"%1\": expected a colour, an array or an object").arg(name)));
+            found.append(
+                problemAt(json, Problem::Structure, name,
+                          QStringLiteral("\"%1\": expected a colour, an array or an object").arg(name)));
             continue;
         }
         if (ok)
-            theme.d->sets.insert(name, BzColorSet(name, colors[0], colors[1], colors[2], colors[3], colors[4],
-                                                  colors[5]));
+            theme.d->sets.insert(
+                name, BzColorSet(name, colors[0], colors[1], colors[2], colors[3], colors[4], colors[5]));
     }
     if (!found.isEmpty())
         return fail();
@@ -187,8 +186,7 @@ std::optional<BzTheme> BzTheme::fromJson(const QByteArray& json, QList<Problem>*
     return theme;
 }
 
-QByteArray BzTheme::toJson() const
-{
+QByteArray BzTheme::toJson() const {
     QJsonObject root;
     root.insert(QLatin1String("name"), d->name);
     if (!d->base.isEmpty())
@@ -206,23 +204,39 @@ QByteArray BzTheme::toJson() const
     return QJsonDocument(root).toJson(QJsonDocument::Indented);
 }
 
-QString BzTheme::name() const { return d->name; }
-void BzTheme::setName(const QString& name) { d->name = name; }
-QString BzTheme::baseName() const { return d->base; }
-void BzTheme::setBaseName(const QString& base) { d->base = base; }
-bool BzTheme::isHighContrast() const { return d->highContrast; }
-void BzTheme::setHighContrast(bool on) { d->highContrast = on; }
-bool BzTheme::isDark() const { return d->dark; }
-void BzTheme::setDark(bool on) { d->dark = on; }
-bool BzTheme::contains(const QString& name) const { return d->sets.contains(name); }
+QString BzTheme::name() const {
+    return d->name;
+}
+void BzTheme::setName(const QString& name) {
+    d->name = name;
+}
+QString BzTheme::baseName() const {
+    return d->base;
+}
+void BzTheme::setBaseName(const QString& base) {
+    d->base = base;
+}
+bool BzTheme::isHighContrast() const {
+    return d->highContrast;
+}
+void BzTheme::setHighContrast(bool on) {
+    d->highContrast = on;
+}
+bool BzTheme::isDark() const {
+    return d->dark;
+}
+void BzTheme::setDark(bool on) {
+    d->dark = on;
+}
+bool BzTheme::contains(const QString& name) const {
+    return d->sets.contains(name);
+}
 
-BzColorSet BzTheme::colorSet(const QString& name) const
-{
+BzColorSet BzTheme::colorSet(const QString& name) const {
     return d->sets.value(name);
 }
 
-void BzTheme::insert(const BzColorSet& set)
-{
+void BzTheme::insert(const BzColorSet& set) {
     if (set.name().isEmpty()) {
         qWarning("BzTheme::insert: a colour set needs a name");
         return;
@@ -230,10 +244,11 @@ void BzTheme::insert(const BzColorSet& set)
     d->sets.insert(set.name(), set);
 }
 
-const QHash<QString, BzColorSet>& BzTheme::colorSets() const { return d->sets; }
+const QHash<QString, BzColorSet>& BzTheme::colorSets() const {
+    return d->sets;
+}
 
-QStringList BzTheme::names() const
-{
+QStringList BzTheme::names() const {
     QStringList names = d->sets.keys();
     std::sort(names.begin(), names.end());
     return names;

@@ -8,28 +8,24 @@
 
 namespace {
 
-QStringList segmentsOf(const QString& name)
-{
+QStringList segmentsOf(const QString& name) {
     return name.split(QLatin1Char('-'));
 }
 
-int commonPrefix(const QStringList& a, const QStringList& b)
-{
+int commonPrefix(const QStringList& a, const QStringList& b) {
     int n = 0;
     while (n < a.size() && n < b.size() && a.at(n) == b.at(n))
         ++n;
     return n;
 }
 
-int sharedSegments(const QStringList& a, const QStringList& b)
-{
+int sharedSegments(const QStringList& a, const QStringList& b) {
     QSet<QString> sa(a.cbegin(), a.cend());
     const QSet<QString> sb(b.cbegin(), b.cend());
     return int(sa.intersect(sb).size());
 }
 
-double channel(int c)
-{
+double channel(int c) {
     const double v = c / 255.0;
     return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
 }
@@ -40,15 +36,14 @@ const char kSurface[] = "panel-primary-background";
 
 namespace BzThemeAudit {
 
-bool isBackgroundName(const QString& name)
-{
+bool isBackgroundName(const QString& name) {
     const QStringList segs = segmentsOf(name);
-    return std::any_of(segs.cbegin() + 1, segs.cend(),
-                       [](const QString& s) { return s.endsWith(QLatin1String("background"), Qt::CaseInsensitive); });
+    return std::any_of(segs.cbegin() + 1, segs.cend(), [](const QString& s) {
+        return s.endsWith(QLatin1String("background"), Qt::CaseInsensitive);
+    });
 }
 
-bool isForegroundName(const QString& name)
-{
+bool isForegroundName(const QString& name) {
     const QStringList segs = segmentsOf(name);
     if (segs.size() < 2 || isBackgroundName(name))
         return false;
@@ -65,8 +60,7 @@ bool isForegroundName(const QString& name)
     });
 }
 
-QList<ContrastPair> contrastPairs(const QStringList& names)
-{
+QList<ContrastPair> contrastPairs(const QStringList& names) {
     QHash<QString, QStringList> backgroundsByFamily;
     for (const QString& name : names) {
         if (isBackgroundName(name))
@@ -85,7 +79,8 @@ QList<ContrastPair> contrastPairs(const QStringList& names)
         for (const QString& bg : candidates) {
             const QStringList bs = segmentsOf(bg);
             // Larger is better: prefix, shared segments, then fewer segments.
-            const std::tuple<int, int, int> key(commonPrefix(fg, bs), sharedSegments(fg, bs), -int(bs.size()));
+            const std::tuple<int, int, int> key(commonPrefix(fg, bs), sharedSegments(fg, bs),
+                                                -int(bs.size()));
             if (!best || key > bestKey || (key == bestKey && bg.toUtf8() < best->toUtf8())) {
                 best = &bg;
                 bestKey = key;
@@ -96,33 +91,31 @@ QList<ContrastPair> contrastPairs(const QStringList& names)
     return pairs;
 }
 
-double relativeLuminance(const QColor& color)
-{
+double relativeLuminance(const QColor& color) {
     const QColor c = color.toRgb();
     return 0.2126 * channel(c.red()) + 0.7152 * channel(c.green()) + 0.0722 * channel(c.blue());
 }
 
-double contrastRatio(const QColor& a, const QColor& b)
-{
+double contrastRatio(const QColor& a, const QColor& b) {
     const double la = relativeLuminance(a);
     const double lb = relativeLuminance(b);
     return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
 }
 
-QColor composeOver(const QColor& top, const QColor& bottom)
-{
+QColor composeOver(const QColor& top, const QColor& bottom) {
     const double a = top.alphaF();
-    auto mix = [a](int t, int b) { return int(std::lround(t * a + b * (1.0 - a))); };
-    return QColor(mix(top.red(), bottom.red()), mix(top.green(), bottom.green()), mix(top.blue(), bottom.blue()));
+    auto mix = [a](int t, int b) {
+        return int(std::lround(t * a + b * (1.0 - a)));
+    };
+    return QColor(mix(top.red(), bottom.red()), mix(top.green(), bottom.green()),
+                  mix(top.blue(), bottom.blue()));
 }
 
-double requiredRatio(const BzTheme& theme)
-{
+double requiredRatio(const BzTheme& theme) {
     return theme.isHighContrast() ? 7.0 : 4.5;
 }
 
-QList<ContrastPair> measure(const BzTheme& theme, const QList<ContrastPair>& pairs)
-{
+QList<ContrastPair> measure(const BzTheme& theme, const QList<ContrastPair>& pairs) {
     const QColor surface = theme.colorSet(QLatin1String(kSurface)).normal();
     const QColor opaqueSurface = surface.isValid() ? composeOver(surface, Qt::white) : QColor(Qt::white);
     QList<ContrastPair> measured;
@@ -138,8 +131,7 @@ QList<ContrastPair> measure(const BzTheme& theme, const QList<ContrastPair>& pai
     return measured;
 }
 
-Report auditJson(const QByteArray& json, const QStringList& knownNames)
-{
+Report auditJson(const QByteArray& json, const QStringList& knownNames) {
     Report report;
     const std::optional<BzTheme> theme = BzTheme::fromJson(json, &report.malformed);
     if (!theme)

@@ -34,12 +34,14 @@ struct ContrastPair {
 };
 
 struct Report {
-    QStringList missing;   // known names the theme lacks
-    QStringList unknown;   // names the theme defines that no component uses
+    QStringList missing; // known names the theme lacks
+    QStringList unknown; // names the theme defines that no component uses
     QList<BzTheme::Problem> malformed;
     QList<ContrastPair> lowContrast; // below the theme's required ratio
     bool parsed = false;
-    bool hasErrors() const { return !parsed || !missing.isEmpty() || !malformed.isEmpty() || !lowContrast.isEmpty(); }
+    bool hasErrors() const {
+        return !parsed || !missing.isEmpty() || !malformed.isEmpty() || !lowContrast.isEmpty();
+    }
 };
 
 BRISEL_EXPORT bool isBackgroundName(const QString& name);

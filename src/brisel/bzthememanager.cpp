@@ -12,8 +12,7 @@ const char* const kBuiltIn[] = {"light", "dark", "highContrast"};
 const char* const kBuiltInFiles[] = {":/brisel/themes/light.json", ":/brisel/themes/dark.json",
                                      ":/brisel/themes/highcontrast.json"};
 
-bool isBuiltInName(const QString& name)
-{
+bool isBuiltInName(const QString& name) {
     return std::any_of(std::begin(kBuiltIn), std::end(kBuiltIn),
                        [&](const char* n) { return name == QLatin1String(n); });
 }
@@ -29,16 +28,16 @@ struct BzThemeManager::Private {
     BzTheme empty;
 };
 
-BzThemeManager* BzThemeManager::instance()
-{
+BzThemeManager* BzThemeManager::instance() {
     // Parented to nothing and never deleted before exit: colour lookups may
     // happen from destructors of widgets torn down late.
     static BzThemeManager* manager = new BzThemeManager;
     return manager;
 }
 
-BzThemeManager::BzThemeManager(QObject* parent) : QObject(parent), d(new Private)
-{
+BzThemeManager::BzThemeManager(QObject* parent)
+    : QObject(parent)
+    , d(new Private) {
     for (int i = 0; i < 3; ++i) {
         QFile file(QLatin1String(kBuiltInFiles[i]));
         QList<BzTheme::Problem> problems;
@@ -57,41 +56,34 @@ BzThemeManager::BzThemeManager(QObject* parent) : QObject(parent), d(new Private
         registerTheme(d->builtIn.value(QLatin1String(name)), QStringLiteral("built-in"));
 }
 
-BzThemeManager::~BzThemeManager()
-{
+BzThemeManager::~BzThemeManager() {
     delete d;
 }
 
-QStringList BzThemeManager::themeNames() const
-{
+QStringList BzThemeManager::themeNames() const {
     QStringList names = d->themes.keys();
     std::sort(names.begin(), names.end());
     return names;
 }
 
-bool BzThemeManager::hasTheme(const QString& name) const
-{
+bool BzThemeManager::hasTheme(const QString& name) const {
     return d->themes.contains(name);
 }
 
-BzTheme BzThemeManager::theme(const QString& name) const
-{
+BzTheme BzThemeManager::theme(const QString& name) const {
     return d->themes.value(name);
 }
 
-QString BzThemeManager::currentThemeName() const
-{
+QString BzThemeManager::currentThemeName() const {
     return d->current;
 }
 
-const BzTheme& BzThemeManager::currentTheme() const
-{
+const BzTheme& BzThemeManager::currentTheme() const {
     auto it = d->themes.constFind(d->current);
     return it == d->themes.cend() ? d->empty : *it;
 }
 
-const BzTheme& BzThemeManager::themeFor(BzThemeUtils::AppThemeType type) const
-{
+const BzTheme& BzThemeManager::themeFor(BzThemeUtils::AppThemeType type) const {
     QString name;
     switch (type) {
     case BzThemeUtils::Light:
@@ -118,8 +110,7 @@ const BzTheme& BzThemeManager::themeFor(BzThemeUtils::AppThemeType type) const
     return it == d->themes.cend() ? currentTheme() : *it;
 }
 
-bool BzThemeManager::setCurrentTheme(const QString& name, RefreshMode mode)
-{
+bool BzThemeManager::setCurrentTheme(const QString& name, RefreshMode mode) {
     if (!d->themes.contains(name)) {
         qWarning("BzThemeManager: unknown theme \"%s\"; known: %s", qPrintable(name),
                  qPrintable(themeNames().join(QLatin1String(", "))));
@@ -135,8 +126,7 @@ bool BzThemeManager::setCurrentTheme(const QString& name, RefreshMode mode)
     return true;
 }
 
-QString BzThemeManager::loadThemeFile(const QString& path)
-{
+QString BzThemeManager::loadThemeFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         qWarning("%s: cannot read theme file: %s", qPrintable(path), qPrintable(file.errorString()));
@@ -157,8 +147,7 @@ QString BzThemeManager::loadThemeFile(const QString& path)
     return name;
 }
 
-QString BzThemeManager::registerTheme(const BzTheme& theme, const QString& origin)
-{
+QString BzThemeManager::registerTheme(const BzTheme& theme, const QString& origin) {
     if (theme.name().isEmpty()) {
         qWarning("BzThemeManager: a theme needs a name (%s)", qPrintable(origin));
         return QString();
@@ -189,12 +178,10 @@ QString BzThemeManager::registerTheme(const BzTheme& theme, const QString& origi
     return complete.name();
 }
 
-quint64 BzThemeManager::generation() const
-{
+quint64 BzThemeManager::generation() const {
     return d->generation;
 }
 
-QStringList BzThemeManager::knownColorSetNames() const
-{
+QStringList BzThemeManager::knownColorSetNames() const {
     return d->knownNames;
 }

@@ -23,8 +23,7 @@ struct ParseCache {
     bool connected = false;
 };
 
-ParseCache& cache()
-{
+ParseCache& cache() {
     static ParseCache c;
     if (!c.connected) {
         c.connected = true;
@@ -35,8 +34,7 @@ ParseCache& cache()
     return c;
 }
 
-BzColorSet lookup(const QString& name, const QHash<QString, BzColorSet>& sets)
-{
+BzColorSet lookup(const QString& name, const QHash<QString, BzColorSet>& sets) {
     auto it = sets.constFind(name);
     if (it != sets.cend())
         return *it;
@@ -51,8 +49,7 @@ BzColorSet lookup(const QString& name, const QHash<QString, BzColorSet>& sets)
 // Replaces every $(set) / $(set.state) with its colour. Returns false when the
 // template is malformed; the faulty part is then copied through unchanged.
 bool resolveReferences(const QString& css, const QHash<QString, BzColorSet>& sets, QString* out,
-                       QStringList* referenced = nullptr)
-{
+                       QStringList* referenced = nullptr) {
     out->clear();
     out->reserve(css.size() + 64);
     bool ok = true;
@@ -65,8 +62,10 @@ bool resolveReferences(const QString& css, const QHash<QString, BzColorSet>& set
         }
         out->append(QStringView(css).mid(pos, start - pos));
         const qsizetype end = css.indexOf(QLatin1Char(')'), start + 2);
-        const QStringView inner = end < 0 ? QStringView() : QStringView(css).mid(start + 2, end - start - 2).trimmed();
-        if (end < 0 || inner.isEmpty() || inner.contains(QLatin1Char('(')) || inner.contains(QLatin1Char(';'))) {
+        const QStringView inner =
+            end < 0 ? QStringView() : QStringView(css).mid(start + 2, end - start - 2).trimmed();
+        if (end < 0 || inner.isEmpty() || inner.contains(QLatin1Char('(')) ||
+            inner.contains(QLatin1Char(';'))) {
             ok = false;
             out->append(QStringView(css).mid(start, 2));
             pos = start + 2;
@@ -94,16 +93,15 @@ bool resolveReferences(const QString& css, const QHash<QString, BzColorSet>& set
 
 // The set named by the first $(...) in the value of a declaration whose
 // property matches `accept`.
-template <typename Accept>
-QString declaredSet(const QString& css, Accept accept)
-{
+template <typename Accept> QString declaredSet(const QString& css, Accept accept) {
     qsizetype pos = 0;
     while (true) {
         const qsizetype colon = css.indexOf(QLatin1Char(':'), pos);
         if (colon < 0)
             return QString();
         qsizetype propStart = colon;
-        while (propStart > 0 && (css.at(propStart - 1).isLetterOrNumber() || css.at(propStart - 1) == QLatin1Char('-')))
+        while (propStart > 0 &&
+               (css.at(propStart - 1).isLetterOrNumber() || css.at(propStart - 1) == QLatin1Char('-')))
             --propStart;
         const QString property = css.mid(propStart, colon - propStart);
         qsizetype valueEnd = css.indexOf(QLatin1Char(';'), colon);
@@ -126,8 +124,7 @@ QString declaredSet(const QString& css, Accept accept)
     }
 }
 
-void readHeader(const QString& css, BzCSSData* data)
-{
+void readHeader(const QString& css, BzCSSData* data) {
     const qsizetype start = css.indexOf(QLatin1String(kHeader));
     if (start < 0)
         return;
@@ -151,16 +148,15 @@ void readHeader(const QString& css, BzCSSData* data)
         data->extraCSS = css.mid(extra + int(sizeof(kExtraMarker)) - 1);
 }
 
-BzCSSData parseUncached(const QString& css, const QHash<QString, BzColorSet>& sets)
-{
+BzCSSData parseUncached(const QString& css, const QHash<QString, BzColorSet>& sets) {
     BzCSSData data;
     readHeader(css, &data);
     data.backgroundColorSet = declaredSet(css, [](const QString& p) {
         return p == QLatin1String("background-color") || p == QLatin1String("background");
     });
     data.borderColorSet = declaredSet(css, [](const QString& p) {
-        return p.startsWith(QLatin1String("border")) && !p.endsWith(QLatin1String("radius"))
-            && !p.endsWith(QLatin1String("width")) && !p.endsWith(QLatin1String("style"));
+        return p.startsWith(QLatin1String("border")) && !p.endsWith(QLatin1String("radius")) &&
+               !p.endsWith(QLatin1String("width")) && !p.endsWith(QLatin1String("style"));
     });
     data.textColorSet = declaredSet(css, [](const QString& p) { return p == QLatin1String("color"); });
     if (!resolveReferences(css, sets, &data.styleSheet)) {
@@ -177,16 +173,15 @@ BzCSSData parseUncached(const QString& css, const QHash<QString, BzColorSet>& se
 // Keeps plain widgets' style sheets in step with their "css" property.
 class CssWatcher : public QObject {
 public:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::DynamicPropertyChange
-            && static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == kCssProperty) {
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::DynamicPropertyChange &&
+            static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == kCssProperty) {
             auto* widget = qobject_cast<QWidget*>(watched);
             const QVariant css = widget ? widget->property(kCssProperty) : QVariant();
             // A removed property is the first half of a refresh: wait for the write.
             if (css.isValid()) {
-                const BzCSSData data = BzThemeUtils::parseCSS(widget, css.toString(),
-                                                              BzThemeUtils::getAppWColorSets());
+                const BzCSSData data =
+                    BzThemeUtils::parseCSS(widget, css.toString(), BzThemeUtils::getAppWColorSets());
                 if (widget->styleSheet() != data.styleSheet)
                     widget->setStyleSheet(data.styleSheet);
             }
@@ -199,8 +194,7 @@ public:
 
 namespace BzThemeUtils {
 
-QString themeTypeToString(AppThemeType type)
-{
+QString themeTypeToString(AppThemeType type) {
     switch (type) {
     case Light:
         return QStringLiteral("light");
@@ -216,8 +210,7 @@ QString themeTypeToString(AppThemeType type)
     return QStringLiteral("global");
 }
 
-AppThemeType stringToThemeType(const QString& text)
-{
+AppThemeType stringToThemeType(const QString& text) {
     const QString t = text.trimmed();
     for (int i = Global; i <= HighContrast; ++i) {
         if (t.compare(themeTypeToString(AppThemeType(i)), Qt::CaseInsensitive) == 0)
@@ -231,33 +224,27 @@ AppThemeType stringToThemeType(const QString& text)
     return Global;
 }
 
-QString themeNameForType(AppThemeType type)
-{
+QString themeNameForType(AppThemeType type) {
     return BzThemeManager::instance()->themeFor(type).name();
 }
 
-BzColorSet getColorSet(const QString& name, AppThemeType type)
-{
+BzColorSet getColorSet(const QString& name, AppThemeType type) {
     return lookup(name, BzThemeManager::instance()->themeFor(type).colorSets());
 }
 
-BzColorSet getColorSet(const std::string& name, AppThemeType type)
-{
+BzColorSet getColorSet(const std::string& name, AppThemeType type) {
     return getColorSet(QString::fromStdString(name), type);
 }
 
-BzColorSet getColorSet(const char* name, AppThemeType type)
-{
+BzColorSet getColorSet(const char* name, AppThemeType type) {
     return getColorSet(QString::fromUtf8(name), type);
 }
 
-const QHash<QString, BzColorSet>& getAppWColorSets()
-{
+const QHash<QString, BzColorSet>& getAppWColorSets() {
     return BzThemeManager::instance()->currentTheme().colorSets();
 }
 
-AppThemeType getThemeTypeOfWidget(const QWidget* widget)
-{
+AppThemeType getThemeTypeOfWidget(const QWidget* widget) {
     for (const QWidget* w = widget; w; w = w->parentWidget()) {
         const QVariant v = w->property("themeType");
         if (!v.isValid())
@@ -272,18 +259,15 @@ AppThemeType getThemeTypeOfWidget(const QWidget* widget)
     return Global;
 }
 
-bool isHighContrastEnabled()
-{
+bool isHighContrastEnabled() {
     return BzThemeManager::instance()->currentTheme().isHighContrast();
 }
 
-BzColorSet transparentColourSet()
-{
+BzColorSet transparentColourSet() {
     return BzColorSet(QStringLiteral("transparent"), QColor(0, 0, 0, 0));
 }
 
-BzCSSData parseCSS(const QWidget* widget, const QString& css, const QHash<QString, BzColorSet>& colourSets)
-{
+BzCSSData parseCSS(const QWidget* widget, const QString& css, const QHash<QString, BzColorSet>& colourSets) {
     BzThemeManager* manager = BzThemeManager::instance();
     const BzTheme& theme = manager->themeFor(getThemeTypeOfWidget(widget));
     const bool isCurrent = &theme == &manager->currentTheme();
@@ -300,34 +284,34 @@ BzCSSData parseCSS(const QWidget* widget, const QString& css, const QHash<QStrin
     return data;
 }
 
-QString resolveTemplate(const QString& css, AppThemeType type)
-{
+QString resolveTemplate(const QString& css, AppThemeType type) {
     QString out;
     if (!resolveReferences(css, BzThemeManager::instance()->themeFor(type).colorSets(), &out))
-        qWarning("BzThemeUtils: malformed colour reference in style sheet template: %s", qPrintable(css.left(200)));
+        qWarning("BzThemeUtils: malformed colour reference in style sheet template: %s",
+                 qPrintable(css.left(200)));
     return out;
 }
 
-QString convertToWCSS(const BzCSSData& data)
-{
+QString convertToWCSS(const BzCSSData& data) {
     QString css = QLatin1String(kHeader) + QLatin1String(" switches=");
     for (int i = 0; i < BzCSSData::SwitchCount; ++i) {
         if (i)
             css += QLatin1Char(',');
         css += QString::number(data.switches[i]);
     }
-    css += QLatin1String(" radius=") + QString::number(data.borderRadius) + QLatin1String(" width=")
-        + QString::number(data.borderWidth) + QLatin1String("*/\n");
+    css += QLatin1String(" radius=") + QString::number(data.borderRadius) + QLatin1String(" width=") +
+           QString::number(data.borderWidth) + QLatin1String("*/\n");
     if (!data.backgroundColorSet.trimmed().isEmpty() && data.isOn(BzCSSData::PaintBackground))
-        css += QLatin1String("background-color: $(") + data.backgroundColorSet.trimmed() + QLatin1String(");\n");
+        css +=
+            QLatin1String("background-color: $(") + data.backgroundColorSet.trimmed() + QLatin1String(");\n");
     if (!data.borderColorSet.trimmed().isEmpty() && data.hasAnyBorder()) {
-        const auto side = [&](BzCSSData::Switch s) {
+        const auto side = [&](BzCSSData::Switch s) -> QString {
             return QString::number(data.isOn(s) ? data.borderWidth : 0) + QLatin1String("px");
         };
-        css += QLatin1String("border-style: solid;\nborder-width: ") + side(BzCSSData::BorderTop) + QLatin1Char(' ')
-            + side(BzCSSData::BorderRight) + QLatin1Char(' ') + side(BzCSSData::BorderBottom) + QLatin1Char(' ')
-            + side(BzCSSData::BorderLeft) + QLatin1String(";\nborder-color: $(") + data.borderColorSet.trimmed()
-            + QLatin1String(");\n");
+        css += QLatin1String("border-style: solid;\nborder-width: ") + side(BzCSSData::BorderTop) +
+               QLatin1Char(' ') + side(BzCSSData::BorderRight) + QLatin1Char(' ') +
+               side(BzCSSData::BorderBottom) + QLatin1Char(' ') + side(BzCSSData::BorderLeft) +
+               QLatin1String(";\nborder-color: $(") + data.borderColorSet.trimmed() + QLatin1String(");\n");
     }
     if (data.borderRadius > 0)
         css += QLatin1String("border-radius: ") + QString::number(data.borderRadius) + QLatin1String("px;\n");
@@ -338,17 +322,15 @@ QString convertToWCSS(const BzCSSData& data)
     return css;
 }
 
-QString colorToCss(const QColor& color)
-{
+QString colorToCss(const QColor& color) {
     const int alpha = color.alpha();
     const int decimals = (alpha == 0 || alpha == 255) ? 1 : 2;
-    return QLatin1String("rgba(") + QString::number(color.red()) + QLatin1Char(',') + QString::number(color.green())
-        + QLatin1Char(',') + QString::number(color.blue()) + QLatin1Char(',')
-        + QString::number(alpha / 255.0, 'f', decimals) + QLatin1Char(')');
+    return QLatin1String("rgba(") + QString::number(color.red()) + QLatin1Char(',') +
+           QString::number(color.green()) + QLatin1Char(',') + QString::number(color.blue()) +
+           QLatin1Char(',') + QString::number(alpha / 255.0, 'f', decimals) + QLatin1Char(')');
 }
 
-void setWidgetCSS(QWidget* widget, const QString& css)
-{
+void setWidgetCSS(QWidget* widget, const QString& css) {
     if (!widget) {
         qWarning("BzThemeUtils::setWidgetCSS: null widget ignored");
         return;
@@ -362,8 +344,7 @@ void setWidgetCSS(QWidget* widget, const QString& css)
     widget->setProperty(kCssProperty, css);
 }
 
-void refreshWidgetThemes()
-{
+void refreshWidgetThemes() {
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget* widget : widgets) {
         const QVariant css = widget->property(kCssProperty);

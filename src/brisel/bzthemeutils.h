@@ -20,7 +20,7 @@ class QWidget;
 // "$(set.state)" one of its state colours (normal, hovered, pressed,
 // disabled, focused, checked). They resolve to "rgba(r,g,b,a)" text.
 namespace BzThemeUtils {
-BRISEL_EXPORT Q_NAMESPACE
+Q_NAMESPACE_EXPORT(BRISEL_EXPORT)
 
 // 0 resolves against the application's current theme; Alternate is the
 // current theme's light/dark counterpart (high contrast stays high contrast).

@@ -8,33 +8,30 @@
 #include <QPainter>
 #include <QStyleOption>
 
-BzWidget::BzWidget(QWidget* parent, Qt::WindowFlags flags) : QWidget(parent, flags), m_theme(new BzWidgetTheme) {}
+BzWidget::BzWidget(QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags)
+    , m_theme(new BzWidgetTheme) {}
 
 BzWidget::~BzWidget() = default;
 
-void BzWidget::setCSS(const QString& css)
-{
+void BzWidget::setCSS(const QString& css) {
     m_theme->css = css;
     applyTheme(true);
 }
 
-void BzWidget::setCSS(const BzCSSData& record)
-{
+void BzWidget::setCSS(const BzCSSData& record) {
     setCSS(BzThemeUtils::convertToWCSS(record));
 }
 
-QString BzWidget::getCSS() const
-{
+QString BzWidget::getCSS() const {
     return m_theme->css;
 }
 
-BzCSSData BzWidget::getWCSS() const
-{
+BzCSSData BzWidget::getWCSS() const {
     return m_theme->data;
 }
 
-void BzWidget::setFontToken(int token, bool scaled)
-{
+void BzWidget::setFontToken(int token, bool scaled) {
     const BzFont font(token, scaled);
     if (font.token() == m_fontToken && QWidget::font() == font)
         return;
@@ -43,29 +40,25 @@ void BzWidget::setFontToken(int token, bool scaled)
     Q_EMIT fontTokenChanged();
 }
 
-void BzWidget::onThemeChanged()
-{
+void BzWidget::onThemeChanged() {
     applyTheme(false);
 }
 
-void BzWidget::applyTheme(bool force)
-{
+void BzWidget::applyTheme(bool force) {
     if (m_theme->resolve(this, force)) {
         update();
         Q_EMIT cssChanged();
     }
 }
 
-void BzWidget::changeEvent(QEvent* event)
-{
+void BzWidget::changeEvent(QEvent* event) {
     // Reparenting may put the widget under another "themeType".
     if (event->type() == QEvent::ParentChange && !m_theme->css.isEmpty())
         applyTheme(false);
     QWidget::changeEvent(event);
 }
 
-void BzWidget::paintEvent(QPaintEvent*)
-{
+void BzWidget::paintEvent(QPaintEvent*) {
     QStyleOption option;
     option.initFrom(this);
     QPainter painter(this);

@@ -9,15 +9,13 @@
 namespace {
 const char kRecordHeader[] = "/*bz-css";
 
-BzColorSet setFor(const QString& name, BzThemeUtils::AppThemeType type)
-{
+BzColorSet setFor(const QString& name, BzThemeUtils::AppThemeType type) {
     const QString trimmed = name.trimmed();
     return trimmed.isEmpty() ? BzColorSet() : BzThemeUtils::getColorSet(trimmed, type);
 }
 } // namespace
 
-bool BzWidgetTheme::resolve(QWidget* widget, bool force)
-{
+bool BzWidgetTheme::resolve(QWidget* widget, bool force) {
     const quint64 generation = BzThemeManager::instance()->generation();
     const BzThemeUtils::AppThemeType type = BzThemeUtils::getThemeTypeOfWidget(widget);
     if (!force && m_resolved && generation == m_generation && type == m_type)
@@ -36,7 +34,8 @@ bool BzWidgetTheme::resolve(QWidget* widget, bool force)
     // style-sheet engine. Free-form templates go to the engine whole.
     QString styleSheet;
     if (css.startsWith(QLatin1String(kRecordHeader)))
-        styleSheet = data.extraCSS.isEmpty() ? QString() : BzThemeUtils::parseCSS(widget, data.extraCSS, sets).styleSheet;
+        styleSheet = data.extraCSS.isEmpty() ? QString()
+                                             : BzThemeUtils::parseCSS(widget, data.extraCSS, sets).styleSheet;
     else
         styleSheet = data.styleSheet;
     if (widget->styleSheet() != styleSheet)
@@ -44,13 +43,11 @@ bool BzWidgetTheme::resolve(QWidget* widget, bool force)
     return true;
 }
 
-qreal BzWidgetTheme::radiusFor(qreal height) const
-{
+qreal BzWidgetTheme::radiusFor(qreal height) const {
     return data.borderRadius < 0 ? height / 2.0 : qreal(data.borderRadius);
 }
 
-void BzWidgetTheme::paintFrame(QPainter* painter, const QRectF& rect, QStyle::State state) const
-{
+void BzWidgetTheme::paintFrame(QPainter* painter, const QRectF& rect, QStyle::State state) const {
     const bool followState = data.isOn(BzCSSData::FollowState);
     const auto pick = [&](const BzColorSet& set) {
         return followState ? set.colorFor(state) : set.colorFor(state & QStyle::State_Enabled);
@@ -72,8 +69,8 @@ void BzWidgetTheme::paintFrame(QPainter* painter, const QRectF& rect, QStyle::St
     }
     if (hasLine) {
         const qreal w = data.borderWidth;
-        const bool allSides = data.isOn(BzCSSData::BorderTop) && data.isOn(BzCSSData::BorderRight)
-            && data.isOn(BzCSSData::BorderBottom) && data.isOn(BzCSSData::BorderLeft);
+        const bool allSides = data.isOn(BzCSSData::BorderTop) && data.isOn(BzCSSData::BorderRight) &&
+                              data.isOn(BzCSSData::BorderBottom) && data.isOn(BzCSSData::BorderLeft);
         painter->setPen(QPen(line, w));
         painter->setBrush(Qt::NoBrush);
         // Inset by half the pen so the line stays inside and crisp.

@@ -14,22 +14,22 @@ namespace {
 
 class KaLabelBaseAccessible : public QAccessibleWidget {
 public:
-    explicit KaLabelBaseAccessible(KaLabelBase* label) : QAccessibleWidget(label, label->accessibleRole()) {}
+    explicit KaLabelBaseAccessible(KaLabelBase* label)
+        : QAccessibleWidget(label, label->accessibleRole()) {}
 
-    QString text(QAccessible::Text t) const override
-    {
+    QString text(QAccessible::Text t) const override {
         QString value = QAccessibleWidget::text(t);
         if (t == QAccessible::Name && value.isEmpty()) {
             const auto* label = static_cast<const KaLabelBase*>(widget());
-            value = label->textFormat() == Qt::PlainText ? label->text()
-                                                          : QTextDocumentFragment::fromHtml(label->text()).toPlainText();
+            value = label->textFormat() == Qt::PlainText
+                        ? label->text()
+                        : QTextDocumentFragment::fromHtml(label->text()).toPlainText();
         }
         return value;
     }
 };
 
-QAccessibleInterface* labelFactory(const QString&, QObject* object)
-{
+QAccessibleInterface* labelFactory(const QString&, QObject* object) {
     if (auto* label = qobject_cast<KaLabelBase*>(object))
         return new KaLabelBaseAccessible(label);
     return nullptr;
@@ -39,22 +39,19 @@ QAccessibleInterface* labelFactory(const QString&, QObject* object)
 
 KaLabelBase::KaLabelBase(QWidget* parent, QAccessible::Role role, Qt::WindowFlags flags)
     : QLabel(parent, flags)
-    , m_theme(new BzWidgetTheme)
-{
+    , m_theme(new BzWidgetTheme) {
     init(role);
 }
 
 KaLabelBase::KaLabelBase(const QString& text, QWidget* parent, QAccessible::Role role, Qt::WindowFlags flags)
     : QLabel(text, parent, flags)
-    , m_theme(new BzWidgetTheme)
-{
+    , m_theme(new BzWidgetTheme) {
     init(role);
 }
 
 KaLabelBase::~KaLabelBase() = default;
 
-void KaLabelBase::init(QAccessible::Role role)
-{
+void KaLabelBase::init(QAccessible::Role role) {
     static bool factoryInstalled = false;
     if (!factoryInstalled) {
         factoryInstalled = true;
@@ -64,34 +61,28 @@ void KaLabelBase::init(QAccessible::Role role)
     setFontToken(BzFont::Body, false);
 }
 
-void KaLabelBase::setCSS(const QString& css)
-{
+void KaLabelBase::setCSS(const QString& css) {
     m_theme->css = css;
     applyTheme(true);
 }
 
-void KaLabelBase::setCSS(const BzCSSData& record)
-{
+void KaLabelBase::setCSS(const BzCSSData& record) {
     setCSS(BzThemeUtils::convertToWCSS(record));
 }
 
-QString KaLabelBase::getCSS() const
-{
+QString KaLabelBase::getCSS() const {
     return m_theme->css;
 }
 
-BzCSSData KaLabelBase::getWCSS() const
-{
+BzCSSData KaLabelBase::getWCSS() const {
     return m_theme->data;
 }
 
-QString KaLabelBase::textColorSetName() const
-{
+QString KaLabelBase::textColorSetName() const {
     return m_theme->data.textColorSet;
 }
 
-void KaLabelBase::setFontToken(int token, bool scaled)
-{
+void KaLabelBase::setFontToken(int token, bool scaled) {
     const BzFont font(token, scaled);
     if (font.token() == m_fontToken && QLabel::font() == font)
         return;
@@ -100,8 +91,7 @@ void KaLabelBase::setFontToken(int token, bool scaled)
     Q_EMIT fontTokenChanged();
 }
 
-void KaLabelBase::setElideMode(Qt::TextElideMode mode)
-{
+void KaLabelBase::setElideMode(Qt::TextElideMode mode) {
     if (m_elideMode == mode)
         return;
     m_elideMode = mode;
@@ -109,38 +99,33 @@ void KaLabelBase::setElideMode(Qt::TextElideMode mode)
     Q_EMIT elideModeChanged();
 }
 
-QString KaLabelBase::getElidedText() const
-{
+QString KaLabelBase::getElidedText() const {
     return getElidedText(contentsRect().width() - 2 * margin() - 2 * indent() * (indent() > 0));
 }
 
-QString KaLabelBase::getElidedText(int width) const
-{
-    const QString plain = textFormat() == Qt::RichText ? QTextDocumentFragment::fromHtml(text()).toPlainText() : text();
+QString KaLabelBase::getElidedText(int width) const {
+    const QString plain =
+        textFormat() == Qt::RichText ? QTextDocumentFragment::fromHtml(text()).toPlainText() : text();
     if (m_elideMode == Qt::ElideNone)
         return plain;
     return fontMetrics().elidedText(plain, m_elideMode, qMax(0, width));
 }
 
-void KaLabelBase::enableArrowNavigate(bool enable)
-{
+void KaLabelBase::enableArrowNavigate(bool enable) {
     m_arrowNavigate = enable;
     if (enable && focusPolicy() == Qt::NoFocus)
         setFocusPolicy(Qt::StrongFocus);
 }
 
-void KaLabelBase::setAccessibleRole(QAccessible::Role role)
-{
+void KaLabelBase::setAccessibleRole(QAccessible::Role role) {
     m_role = role;
 }
 
-void KaLabelBase::onThemeChanged()
-{
+void KaLabelBase::onThemeChanged() {
     applyTheme(false);
 }
 
-void KaLabelBase::applyTheme(bool force)
-{
+void KaLabelBase::applyTheme(bool force) {
     if (!m_theme->resolve(this, force))
         return;
     updatePalette();
@@ -148,8 +133,7 @@ void KaLabelBase::applyTheme(bool force)
     Q_EMIT cssChanged();
 }
 
-void KaLabelBase::updatePalette()
-{
+void KaLabelBase::updatePalette() {
     const BzColorSet& text = m_theme->text;
     if (!text.isValid())
         return;
@@ -164,15 +148,13 @@ void KaLabelBase::updatePalette()
         setPalette(pal);
 }
 
-void KaLabelBase::changeEvent(QEvent* event)
-{
+void KaLabelBase::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ParentChange && !m_theme->css.isEmpty())
         applyTheme(false);
     QLabel::changeEvent(event);
 }
 
-void KaLabelBase::paintEvent(QPaintEvent* event)
-{
+void KaLabelBase::paintEvent(QPaintEvent* event) {
     QStyleOption option;
     option.initFrom(this);
     {
@@ -187,12 +169,11 @@ void KaLabelBase::paintEvent(QPaintEvent* event)
     const QRect area = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
     const QString shown = getElidedText(area.width());
     QPainter painter(this);
-    style()->drawItemText(&painter, area, int(QStyle::visualAlignment(layoutDirection(), alignment())), palette(),
-                          isEnabled(), shown, foregroundRole());
+    style()->drawItemText(&painter, area, int(QStyle::visualAlignment(layoutDirection(), alignment())),
+                          palette(), isEnabled(), shown, foregroundRole());
 }
 
-void KaLabelBase::keyPressEvent(QKeyEvent* event)
-{
+void KaLabelBase::keyPressEvent(QKeyEvent* event) {
     if (m_arrowNavigate && event->modifiers() == Qt::NoModifier) {
         const bool rtl = layoutDirection() == Qt::RightToLeft;
         switch (event->key()) {

@@ -24,8 +24,8 @@ class BRISEL_EXPORT KaLabelBase : public QLabel {
 public:
     explicit KaLabelBase(QWidget* parent = nullptr, QAccessible::Role role = QAccessible::StaticText,
                          Qt::WindowFlags flags = {});
-    KaLabelBase(const QString& text, QWidget* parent = nullptr, QAccessible::Role role = QAccessible::StaticText,
-                Qt::WindowFlags flags = {});
+    KaLabelBase(const QString& text, QWidget* parent = nullptr,
+                QAccessible::Role role = QAccessible::StaticText, Qt::WindowFlags flags = {});
     ~KaLabelBase() override;
 
     void setCSS(const QString& css);
