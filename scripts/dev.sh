@@ -1,0 +1,71 @@
+#!/usr/bin/env bash
+# Developer entry point on Debian 12, run as root from anywhere:
+#   scripts/dev.sh gallery   install what is missing, build, run the gallery
+#                            (without a display: write its screenshots instead)
+#   scripts/dev.sh test      install what is missing, build and run every test,
+#                            then again built with ASan/UBSan/LSan
+#   scripts/dev.sh bench     build and run the benchmarks
+set -euo pipefail
+
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$here"
+jobs=$(nproc 2>/dev/null || echo 2)
+
+packages=(cmake ninja-build g++ pkg-config clang-format
+          qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-declarative-dev
+          qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
+          fontconfig fonts-dejavu-core xauth xvfb)
+
+install_missing() {
+    local missing=()
+    for p in "${packages[@]}"; do
+        dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
+    done
+    if ((${#missing[@]})); then
+        echo "== installing: ${missing[*]}"
+        export DEBIAN_FRONTEND=noninteractive
+        apt-get update -q
+        apt-get install -y -q --no-install-recommends "${missing[@]}"
+    fi
+}
+
+build() { # build DIR [cmake options...]
+    local dir=$1
+    shift
+    cmake -S . -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@"
+    cmake --build "$dir" -j "$jobs"
+}
+
+run_tests() { # run_tests DIR
+    QT_QPA_PLATFORM=offscreen ctest --test-dir "$1" --output-on-failure -j "$jobs"
+}
+
+case "${1:-}" in
+gallery)
+    install_missing
+    build build -DKARVEX_BUILD_TESTS=OFF
+    if [[ -n "${DISPLAY:-}" || -n "${WAYLAND_DISPLAY:-}" ]]; then
+        exec build/examples/gallery/karvex-gallery
+    fi
+    out="$here/build/gallery-screenshots"
+    echo "== no display: writing the gallery's screenshots to $out"
+    QT_QPA_PLATFORM=offscreen build/examples/gallery/karvex-gallery --screenshot "$out"
+    ;;
+test)
+    install_missing
+    build build
+    run_tests build
+    echo "== again with AddressSanitizer, UndefinedBehaviorSanitizer and LeakSanitizer"
+    build build-sanitize -DKARVEX_SANITIZE=ON -DKARVEX_BUILD_GALLERY=OFF -DKARVEX_BUILD_BENCH=OFF
+    run_tests build-sanitize
+    ;;
+bench)
+    install_missing
+    build build -DCMAKE_BUILD_TYPE=Release
+    QT_QPA_PLATFORM=offscreen build/bench/bench_themeswitch
+    ;;
+*)
+    echo "usage: $0 gallery|test|bench" >&2
+    exit 2
+    ;;
+esac

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "karvex_export.h"
+
+#include <QObject>
+
+// Text fields. Only holds enumerations.
+class KARVEX_EXPORT KaTextFieldEnum : public QObject {
+    Q_OBJECT
+public:
+    enum Style { Password = 0, Search = 1, Standard = 2, Pin = 3 };
+    Q_ENUM(Style)
+
+    enum Size { SingleCharacter = 0, Normal = 1, Large = 2 };
+    Q_ENUM(Size)
+};

@@ -1,0 +1,344 @@
+#include "karvexutils.h"
+
+#include <QAccessible>
+#include <QAccessibleBridge>
+#include <QAccessibleBridgePlugin>
+#include <QPointer>
+#include <QScopeGuard>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWidget>
+#include <QtPlugin>
+
+#include <memory>
+
+namespace {
+
+struct RecordedAccessibleEvent {
+    QAccessible::Event type;
+    QObject* object;
+    QVariant value;
+};
+
+QList<RecordedAccessibleEvent>& recordedEvents() {
+    static QList<RecordedAccessibleEvent> events;
+    return events;
+}
+
+void recordAccessibleEvent(QAccessibleEvent* event) {
+    QVariant value;
+    if (event->type() == QAccessible::ValueChanged)
+        value = static_cast<QAccessibleValueChangeEvent*>(event)->value();
+    recordedEvents().append({event->type(), event->object(), value});
+}
+
+QList<RecordedAccessibleEvent> eventsFor(const QObject* object) {
+    QList<RecordedAccessibleEvent> result;
+    for (const RecordedAccessibleEvent& event : recordedEvents()) {
+        if (event.object == object)
+            result.append(event);
+    }
+    return result;
+}
+
+// Without a screen reader Qt does not call the update handler but hands the
+// event to the platform's bridges, so the test listens on both paths.
+class RecordingBridge : public QAccessibleBridge {
+public:
+    void setRootObject(QAccessibleInterface*) override {}
+    void notifyAccessibilityUpdate(QAccessibleEvent* event) override { recordAccessibleEvent(event); }
+};
+
+struct KeyRecord {
+    QEvent::Type type;
+    int key;
+    QString text;
+    Qt::KeyboardModifiers modifiers;
+    bool autoRepeat;
+    int count;
+};
+
+// Records the key events that reach a widget; optionally reacts to one key
+// by simulating another, as the check-box group does.
+class KeyRecorder : public QObject {
+public:
+    QList<KeyRecord> keys;
+    int remapFrom = -1; // no key
+    Qt::Key remapTo = Qt::Key_unknown;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            keys.append(
+                {key->type(), key->key(), key->text(), key->modifiers(), key->isAutoRepeat(), key->count()});
+            if (key->type() == QEvent::KeyPress && key->key() == remapFrom)
+                KarvexUtils::simulateKeyEvent(static_cast<QWidget*>(watched), remapTo);
+            return true;
+        }
+        return false;
+    }
+};
+
+class PropertyChangeCounter : public QObject {
+public:
+    int cssChanges = 0;
+    int otherChanges = 0;
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::DynamicPropertyChange) {
+            if (static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == "css")
+                ++cssChanges;
+            else
+                ++otherChanges;
+        }
+        return false;
+    }
+};
+
+} // namespace
+
+class AccessibilityRecorderPlugin : public QAccessibleBridgePlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QAccessibleBridgeFactoryInterface_iid FILE "accessibilityrecorder.json")
+public:
+    QAccessibleBridge* create(const QString&) override { return new RecordingBridge; }
+};
+
+Q_IMPORT_PLUGIN(AccessibilityRecorderPlugin)
+
+// A themable component as the refresh sees it: it has an onThemeChanged()
+// slot. The count lives outside so that it can be read after deletion.
+class ThemedWidget : public QWidget {
+    Q_OBJECT
+public:
+    explicit ThemedWidget(int* calls, QWidget* parent = nullptr)
+        : QWidget(parent)
+        , m_calls(calls) {}
+
+public Q_SLOTS:
+    void onThemeChanged() { ++*m_calls; }
+
+private:
+    int* m_calls;
+};
+
+class tst_KarvexUtils : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+
+    void announce_data();
+    void announce();
+    void announceNullObject();
+
+    void simulateKeyEvent_data();
+    void simulateKeyEvent();
+    void simulateKeyEventKeepsOrderFromHandlers();
+    void simulateKeyEventNullTarget();
+    void simulateKeyEventTargetDeleted();
+
+    void updateThemesRewritesCss();
+    void updateThemesSkipsEmptyCss();
+    void updateThemesLeavesOtherWidgetsAlone();
+    void updateThemesWidgetDeletedBeforeDelivery();
+};
+
+void tst_KarvexUtils::init() {
+    recordedEvents().clear();
+}
+
+void tst_KarvexUtils::announce_data() {
+    QTest::addColumn<bool>("widget");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("object") << false << QStringLiteral("Menu opened");
+    QTest::newRow("widget") << true << QStringLiteral("Page 2 of 5");
+    QTest::newRow("empty text") << false << QString();
+    QTest::newRow("non-ASCII") << true << QStringLiteral("Gr\u00f6\u00dfe \u2713");
+}
+
+void tst_KarvexUtils::announce() {
+    QFETCH(bool, widget);
+    QFETCH(QString, text);
+
+    auto previous = QAccessible::installUpdateHandler(recordAccessibleEvent);
+    const auto restore = qScopeGuard([previous] { QAccessible::installUpdateHandler(previous); });
+
+    std::unique_ptr<QObject> object(widget ? new QWidget : new QObject);
+    PropertyChangeCounter properties;
+    object->installEventFilter(&properties);
+
+    KarvexUtils::announce(object.get(), text);
+
+    const QList<RecordedAccessibleEvent> events = eventsFor(object.get());
+    QCOMPARE(events.size(), 1);
+    QCOMPARE(events.first().type, QAccessible::ValueChanged);
+    QCOMPARE(events.first().value.metaType(), QMetaType::fromType<QString>());
+    QCOMPARE(events.first().value.toString(), text);
+
+    // Nothing is posted and no property changes.
+    QCoreApplication::processEvents();
+    QCOMPARE(eventsFor(object.get()).size(), 1);
+    QCOMPARE(properties.cssChanges + properties.otherChanges, 0);
+    QVERIFY(object->dynamicPropertyNames().isEmpty());
+}
+
+void tst_KarvexUtils::announceNullObject() {
+    auto previous = QAccessible::installUpdateHandler(recordAccessibleEvent);
+    const auto restore = qScopeGuard([previous] { QAccessible::installUpdateHandler(previous); });
+
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("announce")));
+    KarvexUtils::announce(nullptr, QStringLiteral("nobody"));
+    QVERIFY(recordedEvents().isEmpty());
+}
+
+void tst_KarvexUtils::simulateKeyEvent_data() {
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("pressText");
+    QTest::newRow("letter") << int(Qt::Key_A) << QStringLiteral("A");
+    QTest::newRow("digit") << int(Qt::Key_1) << QStringLiteral("1");
+    QTest::newRow("space") << int(Qt::Key_Space) << QStringLiteral("Space");
+    QTest::newRow("return") << int(Qt::Key_Return) << QStringLiteral("Return");
+    QTest::newRow("arrow") << int(Qt::Key_Down) << QStringLiteral("Down");
+    QTest::newRow("escape") << int(Qt::Key_Escape) << QStringLiteral("Esc");
+    QTest::newRow("function") << int(Qt::Key_F5) << QStringLiteral("F5");
+    QTest::newRow("lock key") << int(Qt::Key_CapsLock) << QStringLiteral("CapsLock");
+    QTest::newRow("menu key") << int(Qt::Key_Menu) << QStringLiteral("Menu");
+    QTest::newRow("unknown") << int(Qt::Key_unknown) << QString();
+}
+
+void tst_KarvexUtils::simulateKeyEvent() {
+    QFETCH(int, key);
+    QFETCH(QString, pressText);
+
+    QWidget target;
+    KeyRecorder recorder;
+    target.installEventFilter(&recorder);
+
+    KarvexUtils::simulateKeyEvent(&target, Qt::Key(key));
+    QVERIFY2(recorder.keys.isEmpty(), "delivered synchronously instead of posted");
+
+    QTRY_COMPARE(recorder.keys.size(), 2);
+    const KeyRecord press = recorder.keys.at(0);
+    const KeyRecord release = recorder.keys.at(1);
+    QCOMPARE(press.type, QEvent::KeyPress);
+    QCOMPARE(press.key, key);
+    QCOMPARE(press.text, pressText);
+    QCOMPARE(press.modifiers, Qt::NoModifier);
+    QVERIFY(!press.autoRepeat);
+    QCOMPARE(press.count, 1);
+    QCOMPARE(release.type, QEvent::KeyRelease);
+    QCOMPARE(release.key, key);
+    QVERIFY(release.text.isEmpty());
+    QCOMPARE(release.modifiers, Qt::NoModifier);
+    QVERIFY(!release.autoRepeat);
+    QCOMPARE(release.count, 1);
+}
+
+// Turning one key into another from inside the target's own event handling:
+// the new key arrives after the old key's release.
+void tst_KarvexUtils::simulateKeyEventKeepsOrderFromHandlers() {
+    QWidget target;
+    KeyRecorder recorder;
+    recorder.remapFrom = Qt::Key_Tab;
+    recorder.remapTo = Qt::Key_Down;
+    target.installEventFilter(&recorder);
+
+    KarvexUtils::simulateKeyEvent(&target, Qt::Key_Tab);
+    QTRY_COMPARE(recorder.keys.size(), 4);
+    const QList<QPair<QEvent::Type, int>> expected{{QEvent::KeyPress, Qt::Key_Tab},
+                                                   {QEvent::KeyRelease, Qt::Key_Tab},
+                                                   {QEvent::KeyPress, Qt::Key_Down},
+                                                   {QEvent::KeyRelease, Qt::Key_Down}};
+    for (int i = 0; i < expected.size(); ++i) {
+        QCOMPARE(recorder.keys.at(i).type, expected.at(i).first);
+        QCOMPARE(recorder.keys.at(i).key, expected.at(i).second);
+    }
+}
+
+void tst_KarvexUtils::simulateKeyEventNullTarget() {
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("simulateKeyEvent")));
+    KarvexUtils::simulateKeyEvent(nullptr, Qt::Key_A);
+    QCoreApplication::processEvents();
+}
+
+void tst_KarvexUtils::simulateKeyEventTargetDeleted() {
+    KeyRecorder recorder;
+    QPointer<QWidget> target = new QWidget;
+    target->installEventFilter(&recorder);
+    KarvexUtils::simulateKeyEvent(target, Qt::Key_A);
+    delete target;
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    QVERIFY(recorder.keys.isEmpty());
+}
+
+void tst_KarvexUtils::updateThemesRewritesCss() {
+    int calls = 0;
+    ThemedWidget widget(&calls);
+    const QString css = QStringLiteral("QWidget { background: $(panel-primary-background); }");
+    widget.setProperty("css", css);
+    PropertyChangeCounter properties;
+    widget.installEventFilter(&properties);
+
+    KarvexUtils::updateSolvaneThemes();
+
+    QVERIFY2(properties.cssChanges >= 1, "\"css\" was not written again");
+    QCOMPARE(properties.otherChanges, 0);
+    QCOMPARE(widget.property("css").toString(), css);
+    QCOMPARE(calls, 0); // queued, not called
+    QTRY_COMPARE(calls, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(calls, 1);
+}
+
+void tst_KarvexUtils::updateThemesSkipsEmptyCss() {
+    int calls = 0;
+    ThemedWidget widget(&calls);
+    widget.setProperty("css", QString());
+    PropertyChangeCounter properties;
+    widget.installEventFilter(&properties);
+
+    KarvexUtils::updateSolvaneThemes();
+
+    QCOMPARE(properties.cssChanges, 0);
+    QCOMPARE(calls, 0);
+    QTRY_COMPARE(calls, 1);
+    QCOMPARE(properties.cssChanges, 0);
+}
+
+void tst_KarvexUtils::updateThemesLeavesOtherWidgetsAlone() {
+    QWidget bare;
+    QWidget styledOnly;
+    styledOnly.setProperty("css", QStringLiteral("QWidget { color: $(text); }"));
+    PropertyChangeCounter bareProperties;
+    PropertyChangeCounter styledProperties;
+    bare.installEventFilter(&bareProperties);
+    styledOnly.installEventFilter(&styledProperties);
+
+    KarvexUtils::updateSolvaneThemes();
+    QCoreApplication::processEvents();
+
+    QCOMPARE(bareProperties.cssChanges, 0);
+    QVERIFY(!bare.dynamicPropertyNames().contains("css"));
+    // No slot needed for the rewrite.
+    QVERIFY(styledProperties.cssChanges >= 1);
+    QCOMPARE(styledOnly.property("css").toString(), QStringLiteral("QWidget { color: $(text); }"));
+}
+
+void tst_KarvexUtils::updateThemesWidgetDeletedBeforeDelivery() {
+    int survivorCalls = 0;
+    int deletedCalls = 0;
+    ThemedWidget survivor(&survivorCalls);
+    auto* doomed = new ThemedWidget(&deletedCalls);
+    doomed->setProperty("css", QStringLiteral("QWidget { color: $(text); }"));
+
+    KarvexUtils::updateSolvaneThemes();
+    delete doomed;
+
+    QTRY_COMPARE(survivorCalls, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(deletedCalls, 0);
+}
+
+QTEST_MAIN(tst_KarvexUtils)
+#include "tst_karvexutils.moc"
