@@ -48,6 +48,8 @@ public:
     int token() const { return m_token; }
     static int pixelSizeOf(int token);
     static QFont::Weight weightOf(int token);
+    // The pixel size of `token` at text scale `scale`: rounded, at least 1.
+    static int scaledPixelSizeOf(int token, double scale);
     // The family name of the bundled UI font (registers it on first call).
     static QString family();
 

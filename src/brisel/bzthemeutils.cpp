@@ -1,6 +1,7 @@
 #include "bzthemeutils.h"
 
 #include "bzthememanager.h"
+#include "bzwidgettheme_p.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -11,6 +12,8 @@
 #include <QWidget>
 
 namespace {
+
+bool s_refreshing = false;
 
 const char kHeader[] = "/*bz-css";
 const char kExtraMarker[] = "/*bz-extra*/";
@@ -345,6 +348,10 @@ void setWidgetCSS(QWidget* widget, const QString& css) {
 }
 
 void refreshWidgetThemes() {
+    // Base widgets re-resolve while "css" is rewritten but leave the repaint
+    // to one update per window below: thousands of single dirty widgets cost
+    // Qt far more to merge than one dirty window.
+    s_refreshing = true;
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget* widget : widgets) {
         const QVariant css = widget->property(kCssProperty);
@@ -359,6 +366,16 @@ void refreshWidgetThemes() {
         if (widget->metaObject()->indexOfMethod("onThemeChanged()") >= 0)
             QMetaObject::invokeMethod(widget, "onThemeChanged", Qt::QueuedConnection);
     }
+    s_refreshing = false;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible())
+            window->update();
+    }
 }
 
 } // namespace BzThemeUtils
+
+bool bzThemeRefreshInProgress()
+{
+    return s_refreshing;
+}

@@ -46,7 +46,8 @@ void BzWidget::onThemeChanged() {
 
 void BzWidget::applyTheme(bool force) {
     if (m_theme->resolve(this, force)) {
-        update();
+        if (!bzThemeRefreshInProgress())
+            update();
         Q_EMIT cssChanged();
     }
 }

@@ -38,3 +38,7 @@ private:
     BzThemeUtils::AppThemeType m_type = BzThemeUtils::Global;
     bool m_resolved = false;
 };
+
+// True while BzThemeUtils::refreshWidgetThemes() rewrites the widgets' "css";
+// base widgets then skip their own update(): every window is repainted whole.
+bool bzThemeRefreshInProgress();

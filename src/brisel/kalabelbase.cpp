@@ -129,7 +129,8 @@ void KaLabelBase::applyTheme(bool force) {
     if (!m_theme->resolve(this, force))
         return;
     updatePalette();
-    update();
+    if (!bzThemeRefreshInProgress())
+        update();
     Q_EMIT cssChanged();
 }
 
@@ -144,13 +145,21 @@ void KaLabelBase::updatePalette() {
     }
     pal.setColor(QPalette::Disabled, QPalette::WindowText, text.disabled());
     pal.setColor(QPalette::Disabled, QPalette::Text, text.disabled());
-    if (pal != palette())
+    if (pal != palette()) {
+        m_settingPalette = true;
         setPalette(pal);
+        m_settingPalette = false;
+    }
 }
 
 void KaLabelBase::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ParentChange && !m_theme->css.isEmpty())
         applyTheme(false);
+    // During a theme refresh the window repaints whole; the base class would
+    // only queue one more single-widget update. Painting reads the widget
+    // palette directly, so nothing else needs the event.
+    if (event->type() == QEvent::PaletteChange && m_settingPalette && bzThemeRefreshInProgress())
+        return;
     QLabel::changeEvent(event);
 }
 

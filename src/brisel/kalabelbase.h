@@ -75,4 +75,5 @@ private:
     Qt::TextElideMode m_elideMode = Qt::ElideNone;
     int m_fontToken = -1;
     bool m_arrowNavigate = false;
+    bool m_settingPalette = false;
 };

@@ -59,6 +59,7 @@ void TestKaLabelBase::themeSwitchReachesLabel() {
 }
 
 void TestKaLabelBase::followsParentThemeType() {
+    QWidget other; // declared first: it outlives the label it adopts
     QWidget host;
     host.setProperty("themeType", QStringLiteral("dark"));
     KaLabelBase label(&host);
@@ -66,7 +67,6 @@ void TestKaLabelBase::followsParentThemeType() {
     QCOMPARE(label.palette().color(QPalette::WindowText),
              BzThemeUtils::getColorSet("label-primary-text", BzThemeUtils::Dark).normal());
     // Moved under a window painted in the current theme: re-resolved.
-    QWidget other;
     label.setParent(&other);
     QCOMPARE(label.palette().color(QPalette::WindowText),
              BzThemeUtils::getColorSet("label-primary-text").normal());

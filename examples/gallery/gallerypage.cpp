@@ -1,0 +1,67 @@
+#include "gallerypage.h"
+
+#include "galleryutils.h"
+
+#include <bzfont.h>
+#include <bzwidget.h>
+#include <kalabelbase.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+GalleryPage::GalleryPage(QWidget* parent)
+    : QWidget(parent)
+    , m_title(GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Headline))
+    , m_description(GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::Body))
+    , m_scrollArea(new QScrollArea) {
+    m_description->setWordWrap(true);
+
+    // Transparent content: the window's root paints the background.
+    auto* content = new BzWidget;
+    m_contentLayout = new QVBoxLayout(content);
+    m_contentLayout->setContentsMargins(24, 8, 24, 24);
+    m_contentLayout->setSpacing(12);
+    m_scrollArea->setWidget(content);
+    // setWidget() turns background filling on, which would paint the
+    // style's palette over the themed window background.
+    content->setAutoFillBackground(false);
+    GalleryUtils::styleScrollArea(m_scrollArea);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 20, 0, 0);
+    layout->setSpacing(4);
+    auto* header = new QVBoxLayout;
+    header->setContentsMargins(24, 0, 24, 8);
+    header->setSpacing(4);
+    header->addWidget(m_title);
+    header->addWidget(m_description);
+    layout->addLayout(header);
+    layout->addWidget(m_scrollArea, 1);
+}
+
+void GalleryPage::setTitleSource(const char* title) {
+    m_titleSource = title;
+    m_title->setText(title ? QCoreApplication::translate("GalleryPages", title) : QString());
+}
+
+void GalleryPage::setDescription(const QString& text) {
+    m_description->setText(text);
+}
+
+void GalleryPage::showEvent(QShowEvent* event) {
+    // Labels the subclass added after construction, in the current direction.
+    GalleryUtils::alignLabelsToLayoutDirection(this);
+    QWidget::showEvent(event);
+}
+
+void GalleryPage::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        setTitleSource(m_titleSource);
+        retranslateUi();
+    } else if (event->type() == QEvent::LayoutDirectionChange) {
+        GalleryUtils::alignLabelsToLayoutDirection(this);
+    }
+    QWidget::changeEvent(event);
+}

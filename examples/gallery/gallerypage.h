@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+
+class KaLabelBase;
+class QScrollArea;
+class QVBoxLayout;
+
+// Base of every gallery page: a title, a short description and a scrolling
+// content area that the page fills. Pages re-set their texts in
+// retranslateUi(), which runs again whenever the language changes.
+class GalleryPage : public QWidget {
+    Q_OBJECT
+public:
+    explicit GalleryPage(QWidget* parent = nullptr);
+
+    // The registry's title source text ("GalleryPages" context).
+    void setTitleSource(const char* title);
+
+protected:
+    QVBoxLayout* contentLayout() const { return m_contentLayout; }
+    QScrollArea* scrollArea() const { return m_scrollArea; }
+    void setDescription(const QString& text);
+    // Sets every user-visible text; call it at the end of the constructor.
+    virtual void retranslateUi() = 0;
+
+    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    const char* m_titleSource = nullptr;
+    KaLabelBase* m_title;
+    KaLabelBase* m_description;
+    QScrollArea* m_scrollArea;
+    QVBoxLayout* m_contentLayout;
+};

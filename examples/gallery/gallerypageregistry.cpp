@@ -1,0 +1,36 @@
+#include "gallerypageregistry.h"
+
+#include "foundationpage.h"
+#include "iconspage.h"
+#include "tokenspage.h"
+
+#include <QCoreApplication>
+
+namespace {
+template <typename Page> GalleryPage* create() {
+    return new Page;
+}
+} // namespace
+
+const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
+    static const std::vector<Entry> pages = {
+        {QStringLiteral("foundation"), QT_TRANSLATE_NOOP("GalleryPages", "Foundation"),
+         &create<FoundationPage>},
+        {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
+        {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
+    };
+    return pages;
+}
+
+int GalleryPageRegistry::indexOf(const QString& id) {
+    const auto& pages = entries();
+    for (size_t i = 0; i < pages.size(); ++i) {
+        if (pages[i].id == id)
+            return int(i);
+    }
+    return -1;
+}
+
+QString GalleryPageRegistry::title(const Entry& entry) {
+    return QCoreApplication::translate("GalleryPages", entry.title);
+}
