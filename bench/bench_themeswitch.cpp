@@ -27,16 +27,14 @@ namespace {
 class StyleChangeCounter : public QObject {
 public:
     int count = 0;
-    bool eventFilter(QObject*, QEvent* event) override
-    {
+    bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() == QEvent::StyleChange)
             ++count;
         return false;
     }
 };
 
-std::unique_ptr<QWidget> makeGrid(int count, const std::function<QWidget*(int, QWidget*)>& make)
-{
+std::unique_ptr<QWidget> makeGrid(int count, const std::function<QWidget*(int, QWidget*)>& make) {
     auto window = std::make_unique<QWidget>();
     auto* grid = new QGridLayout(window.get());
     grid->setSpacing(1);
@@ -50,16 +48,14 @@ std::unique_ptr<QWidget> makeGrid(int count, const std::function<QWidget*(int, Q
     return window;
 }
 
-double median(std::vector<double> v)
-{
+double median(std::vector<double> v) {
     std::sort(v.begin(), v.end());
     return v[v.size() / 2];
 }
 
 const char* const kThemes[] = {"dark", "light"};
 
-double measureBase(int count, int rounds)
-{
+double measureBase(int count, int rounds) {
     auto window = makeGrid(count, [](int i, QWidget* parent) -> QWidget* {
         BzCSSData data;
         if (i % 2) {
@@ -90,8 +86,7 @@ double measureBase(int count, int rounds)
     return median(times);
 }
 
-double measurePlain(int count, int rounds)
-{
+double measurePlain(int count, int rounds) {
     std::vector<QPushButton*> buttons;
     auto window = makeGrid(count, [&](int i, QWidget* parent) -> QWidget* {
         auto* button = new QPushButton(QStringLiteral("B%1").arg(i), parent);
@@ -103,10 +98,14 @@ double measurePlain(int count, int rounds)
         // The same colours the base widgets get, written out by hand.
         const auto type = r % 2 ? BzThemeUtils::Light : BzThemeUtils::Dark;
         const QString sheet =
-            QStringLiteral("QPushButton { background-color: %1; border: 1px solid %2; border-radius: 4px; color: %3; }")
-                .arg(BzThemeUtils::colorToCss(BzThemeUtils::getColorSet("button-secondary-background", type).normal()),
-                     BzThemeUtils::colorToCss(BzThemeUtils::getColorSet("button-secondary-border", type).normal()),
-                     BzThemeUtils::colorToCss(BzThemeUtils::getColorSet("label-primary-text", type).normal()));
+            QStringLiteral(
+                "QPushButton { background-color: %1; border: 1px solid %2; border-radius: 4px; color: %3; }")
+                .arg(
+                    BzThemeUtils::colorToCss(
+                        BzThemeUtils::getColorSet("button-secondary-background", type).normal()),
+                    BzThemeUtils::colorToCss(
+                        BzThemeUtils::getColorSet("button-secondary-border", type).normal()),
+                    BzThemeUtils::colorToCss(BzThemeUtils::getColorSet("label-primary-text", type).normal()));
         QElapsedTimer timer;
         timer.start();
         for (QPushButton* b : buttons)
@@ -118,8 +117,7 @@ double measurePlain(int count, int rounds)
     return median(times);
 }
 
-int styleSheetCallsOnReapply(int count)
-{
+int styleSheetCallsOnReapply(int count) {
     auto window = makeGrid(count, [](int i, QWidget* parent) -> QWidget* {
         auto* label = new KaLabelBase(QStringLiteral("L%1").arg(i), parent);
         // Half records, half free templates that do need Qt's style sheets.
@@ -139,8 +137,7 @@ int styleSheetCallsOnReapply(int count)
 
 } // namespace
 
-int main(int argc, char** argv)
-{
+int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QCommandLineParser parser;
     parser.addHelpOption();
@@ -162,8 +159,9 @@ int main(int argc, char** argv)
     }
     const double b = median(base);
     const double p = median(plain);
-    std::printf("theme switch, %d base-layer widgets: %8.2f ms (updateSolvaneThemes + queued slots + repaint)\n",
-                widgets, b);
+    std::printf(
+        "theme switch, %d base-layer widgets: %8.2f ms (updateSolvaneThemes + queued slots + repaint)\n",
+        widgets, b);
     std::printf("restyle, %d QPushButtons:           %8.2f ms (setStyleSheet + repaint)\n", widgets, p);
     std::printf("ratio: %.3f (bar: at most 0.35)\n", b / p);
     const int calls = styleSheetCallsOnReapply(widgets);

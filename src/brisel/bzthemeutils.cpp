@@ -375,7 +375,6 @@ void refreshWidgetThemes() {
 
 } // namespace BzThemeUtils
 
-bool bzThemeRefreshInProgress()
-{
+bool bzThemeRefreshInProgress() {
     return s_refreshing;
 }
