@@ -1,0 +1,1 @@
+#include "kafocusstyle.h"
