@@ -1,7 +1,10 @@
 #include "gallerypageregistry.h"
 
+#include "buttonspage.h"
+#include "focuspage.h"
 #include "foundationpage.h"
 #include "iconspage.h"
+#include "popupspage.h"
 #include "tokenspage.h"
 
 #include <QCoreApplication>
@@ -16,6 +19,10 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
     static const std::vector<Entry> pages = {
         {QStringLiteral("foundation"), QT_TRANSLATE_NOOP("GalleryPages", "Foundation"),
          &create<FoundationPage>},
+        {QStringLiteral("focus"), QT_TRANSLATE_NOOP("GalleryPages", "Focus ring"), &create<FocusPage>},
+        {QStringLiteral("popups"), QT_TRANSLATE_NOOP("GalleryPages", "Labels and popups"),
+         &create<PopupsPage>},
+        {QStringLiteral("buttons"), QT_TRANSLATE_NOOP("GalleryPages", "Buttons"), &create<ButtonsPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };
