@@ -1,1 +1,546 @@
 #include "bzpushbutton.h"
+
+#include "bzbuttonpainter_p.h"
+#include "bzscaledfont.h"
+#include "bzthememanager.h"
+#include "bzthemeutils.h"
+#include "bzwidgettheme_p.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QEvent>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QStyleOptionButton>
+#include <QStyleOptionFocusRect>
+#include <QTextDocument>
+
+namespace {
+
+const char kRecordHeader[] = "/*bz-css";
+const char kFocusRadiusProperty[] = "focusBorderRadius";
+// Room above and below the content in sizeHint(); configurations set a fixed
+// height anyway.
+constexpr int kVerticalMargin = 4;
+
+int nonNegative(int value, const char* what) {
+    if (value >= 0)
+        return value;
+    qWarning("BzPushButton: negative %s %d, using 0", what, value);
+    return 0;
+}
+
+} // namespace
+
+BzPushButton::BzPushButton(QWidget* parent)
+    : QPushButton(parent)
+    , m_theme(new BzWidgetTheme) {
+    init();
+}
+
+BzPushButton::BzPushButton(const QString& text, QWidget* parent)
+    : QPushButton(text, parent)
+    , m_theme(new BzWidgetTheme) {
+    init();
+}
+
+BzPushButton::~BzPushButton() = default;
+
+void BzPushButton::init() {
+    // Hover changes the face colour, so enter and leave must repaint.
+    setAttribute(Qt::WA_Hover);
+    // Without a record the face is a pill.
+    m_theme->data.borderRadius = -1;
+    applyFont();
+    updateFocusRadius();
+}
+
+void BzPushButton::setCSS(const QString& css) {
+    m_theme->css = css;
+    applyTheme(true);
+}
+
+void BzPushButton::setCSS(const BzCSSData& record) {
+    setCSS(BzThemeUtils::convertToWCSS(record));
+}
+
+QString BzPushButton::getCSS() const {
+    return m_theme->css;
+}
+
+BzCSSData BzPushButton::getWCSS() const {
+    return m_theme->data;
+}
+
+void BzPushButton::onThemeChanged() {
+    applyTheme(false);
+}
+
+bool BzPushButton::resolveTheme(bool force) {
+    if (!m_theme->css.isEmpty() || force) {
+        m_plainResolved = false;
+        return m_theme->resolve(this, force);
+    }
+    // Without a template there is nothing to resolve but the named colour
+    // sets, and a style sheet the host set directly must survive a theme
+    // switch: do not hand an empty template to the shared resolver.
+    const quint64 generation = BzThemeManager::instance()->generation();
+    const BzThemeUtils::AppThemeType type = BzThemeUtils::getThemeTypeOfWidget(this);
+    if (m_plainResolved && generation == m_plainGeneration && type == m_plainType)
+        return false;
+    m_plainResolved = true;
+    m_plainGeneration = generation;
+    m_plainType = type;
+    return true;
+}
+
+void BzPushButton::applyTheme(bool force) {
+    if (!resolveTheme(force))
+        return;
+    adoptFreeFormFrame();
+    const QMargins padding = BzButtonPainter::sheetPadding(styleSheet(), metaObject(), objectName());
+    if (padding != m_sheetPadding) {
+        m_sheetPadding = padding;
+        updateGeometry();
+    }
+    m_focusRectSet = resolveColorSet(m_focusRectSetName);
+    themeResolved();
+    updateFocusRadius();
+    requestUpdate();
+    Q_EMIT cssChanged();
+}
+
+void BzPushButton::adoptFreeFormFrame() {
+    const QString& css = m_theme->css;
+    if (css.startsWith(QLatin1String(kRecordHeader)))
+        return;
+    BzCSSData& record = m_theme->data;
+    record.borderRadius = -1;
+    if (css.isEmpty())
+        return;
+    // A free-form template has no record header: take its radius and border
+    // from the declarations so the painted frame matches what it asks for.
+    static const QRegularExpression radius(QStringLiteral("border-radius\\s*:\\s*(\\d+)"));
+    static const QRegularExpression width(QStringLiteral("border(?:-width)?\\s*:\\s*(\\d+)\\s*px"));
+    const QRegularExpressionMatch r = radius.match(css);
+    if (r.hasMatch())
+        record.borderRadius = r.captured(1).toInt();
+    if (!record.borderColorSet.isEmpty()) {
+        const QRegularExpressionMatch w = width.match(css);
+        record.borderWidth = w.hasMatch() ? w.captured(1).toInt() : 1;
+        record.setBorders(true);
+        m_theme->border = resolveColorSet(record.borderColorSet);
+    }
+}
+
+void BzPushButton::themeResolved() {}
+
+void BzPushButton::requestUpdate() {
+    if (!bzThemeRefreshInProgress())
+        update();
+}
+
+BzColorSet BzPushButton::resolveColorSet(const QString& name) const {
+    const QString trimmed = name.trimmed();
+    if (trimmed.isEmpty())
+        return BzColorSet();
+    return BzThemeUtils::getColorSet(trimmed, BzThemeUtils::getThemeTypeOfWidget(this));
+}
+
+const BzColorSet& BzPushButton::textColorSet() const {
+    return m_theme->text;
+}
+
+void BzPushButton::setTextFormat(Qt::TextFormat format) {
+    if (m_textFormat == format)
+        return;
+    m_textFormat = format;
+    updateGeometry();
+    update();
+    Q_EMIT textFormatChanged();
+}
+
+void BzPushButton::setFocusRectColorSet(const QString& name) {
+    if (m_focusRectSetName == name)
+        return;
+    m_focusRectSetName = name;
+    m_focusRectSet = resolveColorSet(name);
+    update();
+    Q_EMIT focusRectColorSetChanged();
+}
+
+void BzPushButton::setTextHorAlign(BzEnum::HorAlign align) {
+    if (align < BzEnum::Left || align > BzEnum::Right) {
+        qWarning("BzPushButton: unknown text alignment %d ignored", int(align));
+        return;
+    }
+    if (m_textHorAlign == align)
+        return;
+    m_textHorAlign = align;
+    update();
+    Q_EMIT textHorAlignChanged();
+}
+
+void BzPushButton::setTextLeftPadding(int padding) {
+    padding = nonNegative(padding, "text padding");
+    if (m_textLeftPadding == padding)
+        return;
+    m_textLeftPadding = padding;
+    updateGeometry();
+    update();
+    Q_EMIT textLeftPaddingChanged();
+}
+
+void BzPushButton::setTextRightPadding(int padding) {
+    padding = nonNegative(padding, "text padding");
+    if (m_textRightPadding == padding)
+        return;
+    m_textRightPadding = padding;
+    updateGeometry();
+    update();
+    Q_EMIT textRightPaddingChanged();
+}
+
+void BzPushButton::setElideMode(Qt::TextElideMode mode) {
+    if (m_elideMode == mode)
+        return;
+    m_elideMode = mode;
+    updateGeometry();
+    update();
+    Q_EMIT elideModeChanged();
+}
+
+void BzPushButton::setElidePadding(int padding) {
+    padding = nonNegative(padding, "elide padding");
+    if (m_elidePadding == padding)
+        return;
+    m_elidePadding = padding;
+    update();
+    Q_EMIT elidePaddingChanged();
+}
+
+void BzPushButton::setFontToken(int token, bool scaled) {
+    const BzFont font(token, scaled); // clamps with a warning
+    const bool changed = font.token() != m_fontToken;
+    m_fontToken = font.token();
+    m_fontScaled = scaled;
+    applyFont();
+    if (changed)
+        Q_EMIT fontTokenChanged();
+}
+
+void BzPushButton::setFontType(FontManagerEnum::FontType type) {
+    if (type < FontManagerEnum::None || type > FontManagerEnum::Fixed) {
+        qWarning("BzPushButton: unknown font type %d ignored", int(type));
+        return;
+    }
+    if (m_fontType == type)
+        return;
+    m_fontType = type;
+    applyFont();
+    Q_EMIT fontTypeChanged();
+}
+
+void BzPushButton::applyFont() {
+    BzScaledFont* shared = m_fontType == FontManagerEnum::None
+                               ? nullptr
+                               : BzFontManager::instance()->scaledFont(m_fontType, m_fontToken);
+    if (shared != m_scaledFont) {
+        if (m_scaledFont)
+            disconnect(m_scaledFont, nullptr, this, nullptr);
+        m_scaledFont = shared;
+        if (shared)
+            connect(shared, &BzScaledFont::fontTokenChanged, this, &BzPushButton::applyFont);
+    }
+    const QFont font = shared ? shared->font() : QFont(BzFont(m_fontToken, m_fontScaled));
+    if (QWidget::font() != font)
+        setFont(font);
+}
+
+void BzPushButton::setAcceleratorType(int type) {
+    if (type < NoAccelerator || type > AlwaysUnderlined) {
+        qWarning("BzPushButton: unknown accelerator type %d, using %d", type, int(NoAccelerator));
+        type = NoAccelerator;
+    }
+    if (m_acceleratorType == type)
+        return;
+    m_acceleratorType = type;
+    update();
+    Q_EMIT acceleratorTypeChanged();
+}
+
+void BzPushButton::setInnerMetric(int metric) {
+    if (m_innerMetric == metric)
+        return;
+    m_innerMetric = metric;
+    update();
+    Q_EMIT innerMetricChanged();
+}
+
+void BzPushButton::setLayoutMode(int mode) {
+    if (m_layoutMode == mode)
+        return;
+    m_layoutMode = mode;
+    updateGeometry();
+    update();
+    Q_EMIT layoutModeChanged();
+}
+
+qreal BzPushButton::borderRadius() const {
+    const qreal radius = m_theme->radiusFor(height());
+    return qMax<qreal>(0, qMin(radius, qMin(width(), height()) / 2.0));
+}
+
+void BzPushButton::updateFocusRadius() {
+    const qreal radius = borderRadius();
+    const QVariant current = property(kFocusRadiusProperty);
+    if (!current.isValid() || current.toReal() != radius)
+        setProperty(kFocusRadiusProperty, radius);
+}
+
+bool BzPushButton::isRichText() const {
+    switch (m_textFormat) {
+    case Qt::RichText:
+    case Qt::MarkdownText:
+        return true;
+    case Qt::AutoText:
+        return Qt::mightBeRichText(text());
+    default:
+        return false;
+    }
+}
+
+QTextDocument* BzPushButton::document() const {
+    if (!m_document) {
+        m_document.reset(new QTextDocument);
+        m_document->setDocumentMargin(0);
+    }
+    const QString source = text();
+    if (m_documentSource != source || m_documentFormat != int(m_textFormat)) {
+        m_documentSource = source;
+        m_documentFormat = int(m_textFormat);
+        if (m_textFormat == Qt::MarkdownText)
+            m_document->setMarkdown(source);
+        else
+            m_document->setHtml(source);
+    }
+    QTextOption option = m_document->defaultTextOption();
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setTextDirection(layoutDirection());
+    if (option.textDirection() != m_document->defaultTextOption().textDirection() ||
+        option.wrapMode() != m_document->defaultTextOption().wrapMode())
+        m_document->setDefaultTextOption(option);
+    if (m_document->defaultFont() != font())
+        m_document->setDefaultFont(font());
+    return m_document.get();
+}
+
+int BzPushButton::textFlags() const {
+    int flags = Qt::TextSingleLine;
+    switch (m_acceleratorType) {
+    case AlwaysUnderlined:
+        flags |= Qt::TextShowMnemonic;
+        break;
+    case MnemonicAccelerator: {
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        flags |= style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) ? Qt::TextShowMnemonic
+                                                                                 : Qt::TextHideMnemonic;
+        break;
+    }
+    default:
+        flags |= Qt::TextHideMnemonic;
+        break;
+    }
+    return flags;
+}
+
+QSize BzPushButton::textSize() const {
+    const QString t = text();
+    if (t.isEmpty())
+        return QSize(0, fontMetrics().height());
+    if (isRichText()) {
+        const QTextDocument* doc = document();
+        return QSize(qCeil(doc->idealWidth()), qCeil(doc->size().height()));
+    }
+    return QSize(fontMetrics().size(Qt::TextSingleLine | Qt::TextShowMnemonic, t).width(),
+                 fontMetrics().height());
+}
+
+void BzPushButton::decorations(Decorations*) const {}
+
+void BzPushButton::fillLayoutInput(BzButtonLayoutInput* in, const QRect& rect) const {
+    Decorations d;
+    decorations(&d);
+    in->rect = rect;
+    in->padding = m_sheetPadding;
+    in->textLeftPadding = m_textLeftPadding;
+    in->textRightPadding = m_textRightPadding;
+    in->align = m_textHorAlign;
+    in->direction = layoutDirection();
+    in->text = textSize();
+    in->icon = d.icon;
+    in->iconTopLeftPadding = d.iconTopLeftPadding;
+    in->iconBottomRightPadding = d.iconBottomRightPadding;
+    in->iconAlignment = d.iconAlignment;
+    in->iconSpacing = d.iconSpacing;
+    in->anchor = d.anchor;
+    in->anchorSpacing = d.anchorSpacing;
+    in->anchorPadding = d.anchorPadding;
+    in->anchorLeading = d.anchorLeading;
+    in->anchorFollowsText = d.anchorFollowsText;
+    in->anchorOffset = d.anchorOffset;
+}
+
+BzPushButton::Geometry BzPushButton::contentGeometry() const {
+    BzButtonLayoutInput in;
+    fillLayoutInput(&in, rect());
+    Geometry g;
+    const QString full = text();
+    const bool rich = isRichText();
+    const int natural = in.text.width();
+    const auto fit = [&](int room) {
+        g.shownText = full;
+        if (natural <= room || rich || m_elideMode == Qt::ElideNone)
+            return qMin(natural, room);
+        const QFontMetrics fm = fontMetrics();
+        g.shownText = fm.elidedText(full, m_elideMode, qMax(0, room - m_elidePadding), Qt::TextShowMnemonic);
+        return g.shownText.isEmpty()
+                   ? 0
+                   : fm.size(Qt::TextSingleLine | Qt::TextShowMnemonic, g.shownText).width();
+    };
+    const BzButtonLayoutResult r = BzButtonPainter::layout(in, fit);
+    g.text = r.text;
+    g.icon = r.icon;
+    g.anchor = r.anchor;
+    return g;
+}
+
+QString BzPushButton::elidedText() const {
+    return contentGeometry().shownText;
+}
+
+QSize BzPushButton::sizeHint() const {
+    ensurePolished();
+    BzButtonLayoutInput in;
+    fillLayoutInput(&in, QRect());
+    QSize size = BzButtonPainter::contentSize(in);
+    size.setHeight(qMax(size.height(), fontMetrics().height()) + 2 * kVerticalMargin);
+    return size;
+}
+
+QSize BzPushButton::minimumSizeHint() const {
+    const QSize full = sizeHint();
+    if (m_elideMode == Qt::ElideNone || isRichText() || text().isEmpty())
+        return full;
+    // Elided text can shrink to the ellipsis.
+    const int natural = textSize().width();
+    const int ellipsis = fontMetrics().horizontalAdvance(QChar(0x2026));
+    return QSize(full.width() - natural + qMin(natural, ellipsis), full.height());
+}
+
+QStyle::State BzPushButton::paintState() const {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    return option.state;
+}
+
+QColor BzPushButton::stateColor(const BzColorSet& set, QStyle::State state) const {
+    if (!set.isValid()) {
+        const QPalette::ColorGroup group =
+            (state & QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
+        return palette().color(group, QPalette::ButtonText);
+    }
+    if (m_theme->data.isOn(BzCSSData::FollowState))
+        return set.colorFor(state);
+    return set.colorFor(state & QStyle::State_Enabled);
+}
+
+void BzPushButton::paintDecorations(QPainter*, const Geometry&, QStyle::State) {}
+
+void BzPushButton::paintEvent(QPaintEvent*) {
+    const QStyle::State state = paintState();
+    QPainter painter(this);
+    m_theme->paintFrame(&painter, QRectF(rect()), state);
+
+    const Geometry g = contentGeometry();
+    const QColor textColor = stateColor(m_theme->text, state);
+    if (!g.text.isEmpty() && !text().isEmpty()) {
+        if (isRichText()) {
+            QTextDocument* doc = document();
+            painter.save();
+            painter.setClipRect(g.text);
+            const qreal width = doc->idealWidth();
+            const qreal left =
+                layoutDirection() == Qt::RightToLeft && width > g.text.width()
+                    ? g.text.right() + 1 - width
+                    : g.text.left() + (g.text.width() - qMin<qreal>(width, g.text.width())) / 2;
+            painter.translate(left, g.text.top() + (g.text.height() - doc->size().height()) / 2);
+            QAbstractTextDocumentLayout::PaintContext context;
+            context.palette = palette();
+            context.palette.setColor(QPalette::Text, textColor);
+            doc->documentLayout()->draw(&painter, context);
+            painter.restore();
+        } else {
+            // Text that does not fit and is not elided keeps its start visible.
+            const bool fits =
+                fontMetrics().size(Qt::TextSingleLine | Qt::TextShowMnemonic, g.shownText).width() <=
+                g.text.width();
+            const Qt::Alignment horizontal =
+                fits ? Qt::AlignHCenter
+                     : (layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft) |
+                           Qt::AlignAbsolute;
+            painter.setPen(textColor);
+            painter.drawText(g.text, int(horizontal | Qt::AlignVCenter) | textFlags(), g.shownText);
+        }
+    }
+
+    paintDecorations(&painter, g, state);
+
+    if (state & QStyle::State_HasFocus) {
+        if (m_focusRectSet.isValid()) {
+            if (state & QStyle::State_KeyboardFocusChange) {
+                const qreal inset = qMax(1, m_theme->data.borderWidth) + 0.5;
+                const QRectF ring = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
+                const qreal r = qMax<qreal>(0, borderRadius() - inset);
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.setPen(QPen(stateColor(m_focusRectSet, state), 1));
+                painter.setBrush(Qt::NoBrush);
+                painter.drawRoundedRect(ring, r, r);
+            }
+        } else {
+            // The library's focus style draws its ring when asked for this.
+            QStyleOptionFocusRect option;
+            option.initFrom(this);
+            option.rect = rect();
+            style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+        }
+    }
+}
+
+void BzPushButton::changeEvent(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::ParentChange:
+        // Reparenting may put the button under another "themeType".
+        applyTheme(false);
+        break;
+    case QEvent::StyleChange: {
+        const QMargins padding = BzButtonPainter::sheetPadding(styleSheet(), metaObject(), objectName());
+        if (padding != m_sheetPadding) {
+            m_sheetPadding = padding;
+            updateGeometry();
+        }
+        break;
+    }
+    case QEvent::LayoutDirectionChange:
+        update();
+        break;
+    default:
+        break;
+    }
+    QPushButton::changeEvent(event);
+}
+
+void BzPushButton::resizeEvent(QResizeEvent* event) {
+    QPushButton::resizeEvent(event);
+    updateFocusRadius();
+}

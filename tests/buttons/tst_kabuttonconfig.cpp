@@ -1,0 +1,367 @@
+#include "kaconfig.h"
+#include "kapillbuttonconfig.h"
+#include "karoundbuttonconfig.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+using Colors = KaButtonConfigRecord::Colors;
+
+// Restores the process-wide flag even when a check fails half-way.
+struct HighContrastScope {
+    explicit HighContrastScope(bool on)
+        : previous(KaConfig::highContrast) {
+        KaConfig::setIsHighContrast(on);
+    }
+    ~HighContrastScope() { KaConfig::setIsHighContrast(previous); }
+    bool previous;
+};
+
+struct StyleRow {
+    const char* key;
+    int style;
+    const char* background;
+    const char* border;
+    const char* text;
+};
+
+// The table, Active column for the two state-dependent styles.
+const StyleRow kActiveRows[] = {
+    {"Primary", 0, "button-primary-background", "", "button-primary-text"},
+    {"Secondary", 1, "button-secondary-active-background", "button-secondary-active-border",
+     "button-secondary-active-text"},
+    {"Ghost", 2, "button-ghost-active-background", "", "button-ghost-active-text"},
+    {"CancelGhost", 3, "button-cancel-ghost-background", "", "button-cancel-ghost-text"},
+    {"MessageGhost", 4, "button-message-ghost-background", "", "button-message-ghost-text"},
+    {"Join", 5, "button-join-fill-background", "", "button-join-fill-text"},
+    {"OutlineJoin", 6, "button-join-outline-background", "button-join-outline-border",
+     "button-join-outline-text"},
+    {"Cancel", 7, "button-cancel-fill-background", "", "button-cancel-fill-text"},
+    {"OutlineCancel", 8, "button-cancel-outline-background", "button-cancel-outline-border",
+     "button-cancel-outline-text"},
+    {"Message", 9, "button-message-fill-background", "", "button-message-fill-text"},
+    {"DarkThemePrimary", 10, "sharewindow-control-button-primary-background", "",
+     "sharewindow-control-button-primary-text"},
+    {"DarkThemeSecondary", 11, "sharewindow-control-button-secondary-background",
+     "sharewindow-control-button-secondary-border", "sharewindow-control-button-secondary-text"},
+    {"DarkThemeSecondaryActive", 12, "sharewindow-control-button-active-background",
+     "sharewindow-control-button-active-border", "sharewindow-control-button-active-text"},
+    {"GlobalHeaderDeviceActive", 13, "globalHeader-buttonDevice-background", "",
+     "globalHeader-buttonDevice-text-active"},
+    {"GlobalHeaderDeviceInactive", 14, "globalHeader-buttonDevice-background", "",
+     "globalHeader-buttonDevice-text-inactive"},
+    {"GlobalHeaderIcon", 15, "globalHeader-buttonIcon-background", "", "globalHeader-buttonIcon-icon"},
+    {"GlobalHeaderSearchCancel", 16, "globalHeader-searchCancelButton-background",
+     "globalHeader-searchCancelButton-border", "globalHeader-searchCancelButton-text"},
+    {"Inverted", 17, "button-layout-background", "button-layout-border", "button-layout-text"},
+    {"TeachingPrimary", 18, "coachmarkteaching-button-primary-background", "",
+     "coachmarkteaching-button-primary-text"},
+    {"TeachingSecondary", 19, "coachmarkteaching-button-secondary-background",
+     "coachmarkteaching-button-secondary-border", "coachmarkteaching-button-secondary-text"},
+};
+
+StyleRow inactiveRow(const StyleRow& active) {
+    if (active.style == KaButtonEnum::Secondary)
+        return {active.key, active.style, "button-secondary-background", "button-secondary-border",
+                "button-secondary-text"};
+    if (active.style == KaButtonEnum::Ghost)
+        return {active.key, active.style, "button-ghost-background", "", "button-ghost-text"};
+    return active;
+}
+
+std::array<bool, 4> allSides(bool on) {
+    return {{on, on, on, on}};
+}
+
+KaButtonConfigRecord colourRecord(KaButtonConfig& config, int style, int state) {
+    config.setStyle(KaButtonEnum::Style(style));
+    config.setState(KaButtonEnum::State(state));
+    KaButtonConfigRecord record;
+    config.fillConfig(record);
+    return record;
+}
+
+} // namespace
+
+class tst_KaButtonConfig : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void colourTable_data();
+    void colourTable();
+    void highContrast_data();
+    void highContrast();
+    void blankBorderIsNoBorder_data();
+    void blankBorderIsNoBorder();
+    void setStyleAlwaysNotifies();
+    void setSizeNotifiesOnlyOnChange_data();
+    void setSizeNotifiesOnlyOnChange();
+    void checkedDrivesState_data();
+    void checkedDrivesState();
+    void rightIconOrder_data();
+    void rightIconOrder();
+    void emptyLeftIconClearsFlag();
+    void customValueBecomesAcceleratorType();
+};
+
+void tst_KaButtonConfig::colourTable_data() {
+    QTest::addColumn<int>("style");
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("background");
+    QTest::addColumn<QString>("border");
+    QTest::addColumn<QString>("text");
+
+    for (const StyleRow& active : kActiveRows) {
+        const StyleRow inactive = inactiveRow(active);
+        QTest::addRow("%s Active", active.key)
+            << active.style << int(KaButtonEnum::Active) << QString::fromLatin1(active.background)
+            << QString::fromLatin1(active.border) << QString::fromLatin1(active.text);
+        QTest::addRow("%s Inactive", inactive.key)
+            << inactive.style << int(KaButtonEnum::Inactive) << QString::fromLatin1(inactive.background)
+            << QString::fromLatin1(inactive.border) << QString::fromLatin1(inactive.text);
+    }
+    QTest::newRow("outside the table")
+        << 20 << int(KaButtonEnum::Active) << QString() << QString() << QString();
+    QTest::newRow("highest unnamed style")
+        << 31 << int(KaButtonEnum::Inactive) << QString() << QString() << QString();
+}
+
+void tst_KaButtonConfig::colourTable() {
+    QFETCH(int, style);
+    QFETCH(int, state);
+    QFETCH(QString, background);
+    QFETCH(QString, border);
+    QFETCH(QString, text);
+    const HighContrastScope normal(false);
+
+    KaPillButtonConfig pill;
+    const KaButtonConfigRecord record = colourRecord(pill, style, state);
+    QCOMPARE(record.colors.backgroundColorSet, background);
+    QCOMPARE(record.colors.borderColorSet, border);
+    QCOMPARE(record.colors.textColorSet, text);
+    QVERIFY(record.colors.iconColorSet.isEmpty());
+    QCOMPARE(record.colors.hasBorder, allSides(!border.isEmpty()));
+
+    // The pill and the round button share the table.
+    KaRoundButtonConfig round;
+    QCOMPARE(colourRecord(round, style, state).colors, record.colors);
+    KaPillButtonConfig::Geometry pillGeometry;
+    pill.fillGeometry(pillGeometry);
+    QCOMPARE(pillGeometry.colors, record.colors);
+    KaRoundButtonConfig::Geometry roundGeometry;
+    round.fillGeometry(roundGeometry);
+    QCOMPARE(roundGeometry.colors, record.colors);
+}
+
+void tst_KaButtonConfig::highContrast_data() {
+    QTest::addColumn<int>("style");
+    QTest::addColumn<int>("state");
+    QTest::addColumn<bool>("overridden");
+
+    for (const StyleRow& row : kActiveRows) {
+        const bool keepsActive = row.style == KaButtonEnum::Secondary || row.style == KaButtonEnum::Ghost;
+        QTest::addRow("%s Active", row.key) << row.style << int(KaButtonEnum::Active) << !keepsActive;
+        QTest::addRow("%s Inactive", row.key) << row.style << int(KaButtonEnum::Inactive) << true;
+    }
+    QTest::newRow("outside the table") << 25 << int(KaButtonEnum::Active) << true;
+}
+
+void tst_KaButtonConfig::highContrast() {
+    QFETCH(int, style);
+    QFETCH(int, state);
+    QFETCH(bool, overridden);
+
+    KaPillButtonConfig pill;
+    const KaButtonConfigRecord normal = [&] {
+        const HighContrastScope off(false);
+        return colourRecord(pill, style, state);
+    }();
+    const HighContrastScope on(true);
+    const KaButtonConfigRecord record = colourRecord(pill, style, state);
+
+    if (overridden) {
+        QCOMPARE(record.colors.backgroundColorSet, QStringLiteral("button-primary-background"));
+        QCOMPARE(record.colors.borderColorSet, QStringLiteral("button-primary-border"));
+        QCOMPARE(record.colors.textColorSet, QStringLiteral("button-primary-text"));
+        QCOMPARE(record.colors.hasBorder, allSides(true));
+    } else {
+        QCOMPARE(record.colors, normal.colors);
+        QVERIFY(record.colors.backgroundColorSet.contains(QLatin1String("-active-")));
+    }
+
+    KaRoundButtonConfig round;
+    QCOMPARE(colourRecord(round, style, state).colors, record.colors);
+}
+
+void tst_KaButtonConfig::blankBorderIsNoBorder_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("drawn");
+    QTest::newRow("empty") << QString() << false;
+    QTest::newRow("spaces") << QStringLiteral("   ") << false;
+    QTest::newRow("tab and newline") << QStringLiteral("\t\n") << false;
+    QTest::newRow("name") << QStringLiteral("button-secondary-border") << true;
+    QTest::newRow("padded name") << QStringLiteral(" button-layout-border ") << true;
+}
+
+void tst_KaButtonConfig::blankBorderIsNoBorder() {
+    QFETCH(QString, name);
+    QFETCH(bool, drawn);
+    Colors colors;
+    colors.hasBorder = allSides(!drawn);
+    colors.setBorderColorSet(name);
+    QCOMPARE(colors.borderColorSet, name);
+    QCOMPARE(colors.hasBorder, allSides(drawn));
+    QCOMPARE(colors.hasAnyBorder(), drawn);
+}
+
+void tst_KaButtonConfig::setStyleAlwaysNotifies() {
+    KaPillButtonConfig pill;
+    QSignalSpy styleSpy(&pill, &KaButtonConfig::styleChanged);
+    QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
+
+    pill.setStyle(KaButtonEnum::Primary); // the current style
+    pill.setStyle(KaButtonEnum::Primary);
+    pill.setStyle(KaButtonEnum::Ghost);
+    QCOMPARE(styleSpy.count(), 3);
+    QCOMPARE(configSpy.count(), 3);
+    QCOMPARE(styleSpy.at(0).at(0).value<KaButtonEnum::Style>(), KaButtonEnum::Primary);
+    QCOMPARE(styleSpy.at(2).at(0).value<KaButtonEnum::Style>(), KaButtonEnum::Ghost);
+    QCOMPARE(pill.style(), KaButtonEnum::Ghost);
+}
+
+void tst_KaButtonConfig::setSizeNotifiesOnlyOnChange_data() {
+    QTest::addColumn<bool>("round");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("notifications");
+    // The pill starts Large, the round button Small.
+    QTest::newRow("pill, same") << false << int(KaButtonEnum::Large) << 0;
+    QTest::newRow("pill, other") << false << int(KaButtonEnum::Small) << 1;
+    QTest::newRow("round, same") << true << int(KaButtonEnum::Small) << 0;
+    QTest::newRow("round, other") << true << int(KaButtonEnum::Large) << 1;
+}
+
+void tst_KaButtonConfig::setSizeNotifiesOnlyOnChange() {
+    QFETCH(bool, round);
+    QFETCH(int, size);
+    QFETCH(int, notifications);
+    std::unique_ptr<KaButtonConfig> config;
+    if (round)
+        config = std::make_unique<KaRoundButtonConfig>();
+    else
+        config = std::make_unique<KaPillButtonConfig>();
+    QSignalSpy sizeSpy(config.get(), &KaButtonConfig::sizeChanged);
+    QSignalSpy configSpy(config.get(), &IKaButtonConfig::configChanged);
+
+    config->setSize(KaButtonEnum::Size(size));
+    config->setSize(KaButtonEnum::Size(size)); // never repeats
+    QCOMPARE(sizeSpy.count(), notifications);
+    QCOMPARE(configSpy.count(), notifications);
+    QCOMPARE(int(config->size()), size);
+    if (notifications)
+        QCOMPARE(sizeSpy.at(0).at(0).value<KaButtonEnum::Size>(), KaButtonEnum::Size(size));
+}
+
+void tst_KaButtonConfig::checkedDrivesState_data() {
+    QTest::addColumn<QList<bool>>("toggles");
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("stateSignals");
+    QTest::newRow("checked") << QList<bool>{true} << int(KaButtonEnum::Active) << 1;
+    QTest::newRow("checked, unchecked") << QList<bool>{true, false} << int(KaButtonEnum::Inactive) << 2;
+    QTest::newRow("unchecked only") << QList<bool>{false} << int(KaButtonEnum::Inactive) << 0;
+}
+
+void tst_KaButtonConfig::checkedDrivesState() {
+    QFETCH(QList<bool>, toggles);
+    QFETCH(int, state);
+    QFETCH(int, stateSignals);
+    const HighContrastScope normal(false);
+    KaPillButtonConfig pill;
+    pill.setStyle(KaButtonEnum::Secondary);
+    QSignalSpy stateSpy(&pill, &KaButtonConfig::stateChanged);
+    QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
+
+    for (bool checked : toggles)
+        pill.setChecked(checked);
+    QCOMPARE(int(pill.state()), state);
+    QCOMPARE(pill.isChecked(), state == KaButtonEnum::Active);
+    QCOMPARE(stateSpy.count(), stateSignals);
+    // Every toggle asks for a refresh.
+    QCOMPARE(configSpy.count(), toggles.size());
+
+    KaButtonConfigRecord record;
+    pill.fillConfig(record);
+    QCOMPARE(record.colors.backgroundColorSet, state == KaButtonEnum::Active
+                                                   ? QStringLiteral("button-secondary-active-background")
+                                                   : QStringLiteral("button-secondary-background"));
+}
+
+void tst_KaButtonConfig::rightIconOrder_data() {
+    QTest::addColumn<QStringList>("steps");
+    QTest::addColumn<QString>("off");
+    QTest::addColumn<QString>("on");
+    QTest::addColumn<bool>("hasRightIcon");
+    QTest::newRow("plain") << QStringList{QStringLiteral("right=a")} << "a"
+                           << "a" << true;
+    QTest::newRow("plain, then on") << QStringList{QStringLiteral("right=a"), QStringLiteral("on=b")} << "a"
+                                    << "b" << true;
+    QTest::newRow("on, then plain") << QStringList{QStringLiteral("on=b"), QStringLiteral("right=a")} << "a"
+                                    << "a" << true;
+    QTest::newRow("on only") << QStringList{QStringLiteral("on=b")} << ""
+                             << "b" << false;
+    QTest::newRow("plain, on, plain again")
+        << QStringList{QStringLiteral("right=a"), QStringLiteral("on=b"), QStringLiteral("right=c")} << "c"
+        << "c" << true;
+    QTest::newRow("plain, cleared") << QStringList{QStringLiteral("right=a"), QStringLiteral("right=")} << ""
+                                    << "" << false;
+}
+
+void tst_KaButtonConfig::rightIconOrder() {
+    QFETCH(QStringList, steps);
+    QFETCH(QString, off);
+    QFETCH(QString, on);
+    QFETCH(bool, hasRightIcon);
+    KaPillButtonConfig pill;
+    for (const QString& step : steps) {
+        const QString path = step.section(QLatin1Char('='), 1);
+        if (step.startsWith(QLatin1String("right=")))
+            pill.setRightIcon(path);
+        else
+            pill.setRightIconOn(path);
+    }
+    QCOMPARE(pill.anchorSvgOff(), off);
+    QCOMPARE(pill.anchorSvgOn(), on);
+    QCOMPARE(pill.hasRightIcon(), hasRightIcon);
+    KaPillButtonConfig::Geometry geometry;
+    pill.fillGeometry(geometry);
+    QCOMPARE(geometry.anchorIconVisible, hasRightIcon);
+}
+
+void tst_KaButtonConfig::emptyLeftIconClearsFlag() {
+    KaPillButtonConfig pill;
+    QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
+    pill.setLeftIcon(QStringLiteral("qrc:/Resources/chat-filled.svg"));
+    QVERIFY(pill.hasLeftIcon());
+    QCOMPARE(pill.svgIcon(), QStringLiteral("qrc:/Resources/chat-filled.svg"));
+    pill.setLeftIcon(QStringLiteral("qrc:/Resources/chat-filled.svg")); // same path: nothing
+    pill.setLeftIcon(QString());
+    QVERIFY(!pill.hasLeftIcon());
+    // One refresh per real change, although the flag changed as well.
+    QCOMPARE(configSpy.count(), 2);
+}
+
+void tst_KaButtonConfig::customValueBecomesAcceleratorType() {
+    KaRoundButtonConfig round;
+    QSignalSpy configSpy(&round, &IKaButtonConfig::configChanged);
+    round.setCustomValue(3);
+    round.setCustomValue(3);
+    QCOMPARE(configSpy.count(), 1);
+    KaRoundButtonConfig::Geometry geometry;
+    round.fillGeometry(geometry);
+    QCOMPARE(geometry.acceleratorType, 3);
+}
+
+QTEST_GUILESS_MAIN(tst_KaButtonConfig)
+#include "tst_kabuttonconfig.moc"

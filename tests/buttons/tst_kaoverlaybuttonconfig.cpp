@@ -1,0 +1,110 @@
+#include "kaoverlaybuttonconfig.h"
+
+#include <QGuiApplication>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+const QString kRight = QStringLiteral("qrc:/Resources/arrow-right-bold.svg");
+const QString kLeft = QStringLiteral("qrc:/Resources/arrow-left-bold.svg");
+} // namespace
+
+class tst_KaOverlayButtonConfig : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+    void colours_data();
+    void colours();
+    void arrowFollowsLayoutDirection_data();
+    void arrowFollowsLayoutDirection();
+    void geometryBySize_data();
+    void geometryBySize();
+};
+
+void tst_KaOverlayButtonConfig::colours_data() {
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("coloured");
+    QTest::newRow("None") << 0 << false;
+    QTest::newRow("ExpandAreaOverlay") << 1 << true;
+    QTest::newRow("CollapseAreaOverlay") << 2 << true;
+    QTest::newRow("outside the enumeration") << 3 << false;
+}
+
+void tst_KaOverlayButtonConfig::colours() {
+    QFETCH(int, type);
+    QFETCH(bool, coloured);
+    KaOverlayButtonConfig config;
+    config.setType(KaOverlayButtonEnum::Type(type));
+    KaButtonConfigRecord record;
+    config.fillConfig(record);
+    if (coloured) {
+        QCOMPARE(record.colors.backgroundColorSet, QStringLiteral("button-overlay-background"));
+        QCOMPARE(record.colors.borderColorSet, QStringLiteral("button-overlay-border"));
+        QCOMPARE(record.colors.textColorSet, QStringLiteral("button-overlay-text"));
+        QVERIFY(record.colors.hasAnyBorder());
+    } else {
+        QCOMPARE(record.colors, KaButtonConfigRecord::Colors());
+    }
+}
+
+void tst_KaOverlayButtonConfig::arrowFollowsLayoutDirection_data() {
+    QTest::addColumn<int>("type");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<QString>("icon");
+    QTest::newRow("expand, ltr") << 1 << Qt::LeftToRight << kRight;
+    QTest::newRow("expand, rtl") << 1 << Qt::RightToLeft << kLeft;
+    QTest::newRow("collapse, ltr") << 2 << Qt::LeftToRight << kLeft;
+    QTest::newRow("collapse, rtl") << 2 << Qt::RightToLeft << kRight;
+    QTest::newRow("none, ltr") << 0 << Qt::LeftToRight << QString();
+    QTest::newRow("none, rtl") << 0 << Qt::RightToLeft << QString();
+}
+
+void tst_KaOverlayButtonConfig::arrowFollowsLayoutDirection() {
+    QFETCH(int, type);
+    QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(QString, icon);
+    KaOverlayButtonConfig config;
+    config.setType(KaOverlayButtonEnum::Type(type));
+
+    KaOverlayButtonConfig::Geometry g;
+    config.fillGeometry(g, direction);
+    QCOMPARE(g.svgIcon, icon);
+    QCOMPARE(g.svgIconAlignment, BzEnum::AlignCenter);
+
+    // Without a direction the application's one decides.
+    QGuiApplication::setLayoutDirection(direction);
+    KaOverlayButtonConfig::Geometry appGeometry;
+    config.fillGeometry(appGeometry);
+    QCOMPARE(appGeometry.svgIcon, icon);
+}
+
+void tst_KaOverlayButtonConfig::geometryBySize_data() {
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<int>("icon");
+    QTest::newRow("Micro") << 0 << 20 << 12;
+    QTest::newRow("ExtraSmall") << 1 << 24 << 13;
+    QTest::newRow("Small") << 2 << 28 << 16;
+    QTest::newRow("Normal") << 3 << 28 << 16;
+    QTest::newRow("Large") << 4 << 32 << 16;
+    QTest::newRow("ExtraLarge") << 5 << 40 << 20;
+    QTest::newRow("outside the enumeration") << 6 << 0 << 12;
+}
+
+void tst_KaOverlayButtonConfig::geometryBySize() {
+    QFETCH(int, size);
+    QFETCH(int, height);
+    QFETCH(int, icon);
+    KaOverlayButtonConfig config;
+    QCOMPARE(config.size(), KaOverlayButtonEnum::Normal);
+    QSignalSpy sizeSpy(&config, &KaOverlayButtonConfig::sizeChanged);
+    config.setSize(KaOverlayButtonEnum::Size(size));
+    QCOMPARE(sizeSpy.count(), size == KaOverlayButtonEnum::Normal ? 0 : 1);
+    KaOverlayButtonConfig::Geometry g;
+    config.fillGeometry(g, Qt::LeftToRight);
+    QCOMPARE(g.fixedHeight, height);
+    QCOMPARE(g.svgIconSize, QSize(icon, icon));
+}
+
+QTEST_MAIN(tst_KaOverlayButtonConfig)
+#include "tst_kaoverlaybuttonconfig.moc"
