@@ -1,7 +1,10 @@
+#include "focuspage.h"
 #include "gallerywindow.h"
 #include "screenshotrunner.h"
 
 #include <bzthememanager.h>
+#include <kacolortokenutils.h>
+#include <kafocusstyle.h>
 #include <kastyle.h>
 
 #include <QApplication>
@@ -13,8 +16,12 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("karvex-gallery"));
     QApplication::setApplicationVersion(QStringLiteral(KARVEX_GALLERY_VERSION));
-    // One base style everywhere keeps the screenshots comparable between hosts.
-    QApplication::setStyle(new KaStyle(QStringLiteral("Fusion")));
+    // One base style everywhere keeps the screenshots comparable between hosts;
+    // the focus style on top of it draws the library's keyboard focus ring.
+    QApplication::setStyle(new KaFocusStyle(KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline),
+                                            KaColorTokenUtils::tokenToStdString(Karvox::textinput_background),
+                                            false, new KaStyle(QStringLiteral("Fusion"))));
+    FocusPage::followKeyboardNavigation();
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QCoreApplication::translate("main", "The Karvex widget gallery."));

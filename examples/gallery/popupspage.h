@@ -2,6 +2,20 @@
 
 #include "gallerypage.h"
 
+#include <kawidgetdata.h>
+
+#include <QList>
+#include <QPointer>
+
+class KaLabel;
+class KaLabelBase;
+class KaPopover;
+class PopupPreview;
+class QLabel;
+class QPushButton;
+
+// Labels (colour sets, wrapping, Ctrl+C), popovers on every side of an
+// anchor, the text popover and the themed tooltip.
 class PopupsPage : public GalleryPage {
     Q_OBJECT
 public:
@@ -9,4 +23,28 @@ public:
 
 protected:
     void retranslateUi() override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void addLabelSection();
+    void addPopoverSection();
+    void addToolTipRow();
+    void openPopover(int button);
+    KaLabelBase* heading();
+
+    struct LabelSample {
+        KaLabel* label;
+        const char* text;
+    };
+    QList<LabelSample> m_samples;
+    QList<KaLabelBase*> m_headings;
+    KaLabel* m_wrapped = nullptr;
+    KaLabel* m_selectable = nullptr;
+    KaLabel* m_copied = nullptr;
+    QPushButton* m_anchor = nullptr;
+    QList<QPushButton*> m_popoverButtons;
+    PopupPreview* m_preview = nullptr;
+    QPushButton* m_toolTipButton = nullptr;
+    QLabel* m_toolTipSample = nullptr;
+    QPointer<KaPopover> m_popover;
 };

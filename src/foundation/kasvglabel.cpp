@@ -1,1 +1,4 @@
 #include "kasvglabel.h"
+
+KaSvgLabel::KaSvgLabel(QWidget* parent)
+    : KaSvgLabelBase(parent) {}
