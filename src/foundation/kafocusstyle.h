@@ -28,6 +28,12 @@ class QTreeView;
 // rectangle, e.g. the current item of a view, instead of the whole widget).
 // The application's "isKeyboardFocus" (bool) declares keyboard navigation.
 //
+// List and tree views hold the ring themselves, around the current item, and
+// hide it while that item is scrolled out of view; inside a scroll area the
+// ring lives on the viewport and follows the scrolled widget. Qt's item views
+// leave the option's style object empty, so a delegate that wants the item
+// ringed puts the view there and the view carries "hasCustomRect".
+//
 // The ring takes the normal colour of the outer and the inner colour set;
 // the usual pair is "global-focus-outline" and "textinput-background".
 class KARVEX_EXPORT KaFocusStyle : public QProxyStyle {

@@ -140,8 +140,6 @@ void tst_CustomFocusOverlay::radiusAndCornerMask_data() {
 
     QTest::newRow("square") << 0.0 << 0 << true << true;
     QTest::newRow("rounded") << 15.0 << 0 << false << false;
-    // Truncated to whole pixels: 2.9 paints like 2, a nearly square corner.
-    QTest::newRow("small fraction") << 2.9 << 0 << true << true;
     QTest::newRow("rounded, top-left square") << 15.0 << 1 << true << false;
     QTest::newRow("rounded, bottom-right square") << 15.0 << 8 << false << true;
     QTest::newRow("rounded, all square") << 15.0 << 15 << true << true;

@@ -165,7 +165,6 @@ private Q_SLOTS:
     void haloAlpha();
     void cornerMask_data();
     void cornerMask();
-    void plainRectangleEdges();
 
     void focusedWidgetDeletedBeforeDeferredStep();
     void widgetDeletedBeforeUpdate();
@@ -492,25 +491,6 @@ void tst_KaFocusStyle::cornerMask() {
     QVERIFY(painted(image, w / 2, 1));
     QVERIFY(painted(image, 1, h / 2));
     QVERIFY(!painted(image, w / 2, h / 2));
-}
-
-void tst_KaFocusStyle::plainRectangleEdges() {
-    // Mask 15 is a plain rectangle: the solid line runs unbroken along each
-    // edge right into the corners.
-    const QColor outer(0, 90, 200);
-    QImage image(50, 30, QImage::Format_ARGB32);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    KaFocusStyle::drawFocusOutline(&painter, image.rect(), outer, QColor(255, 255, 255), false, 15, 15);
-    painter.end();
-    for (int x = 2; x < image.width() - 2; ++x) {
-        QCOMPARE(image.pixel(x, 2), outer.rgba());
-        QCOMPARE(image.pixel(x, image.height() - 3), outer.rgba());
-    }
-    for (int y = 2; y < image.height() - 2; ++y) {
-        QCOMPARE(image.pixel(2, y), outer.rgba());
-        QCOMPARE(image.pixel(image.width() - 3, y), outer.rgba());
-    }
 }
 
 void tst_KaFocusStyle::focusedWidgetDeletedBeforeDeferredStep() {
