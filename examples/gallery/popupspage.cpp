@@ -6,6 +6,7 @@
 #include <bzfont.h>
 #include <bzthemeutils.h>
 #include <kalabel.h>
+#include <kamoreinfobutton.h>
 #include <kapopover.h>
 #include <katooltip.h>
 
@@ -172,6 +173,9 @@ void PopupsPage::addToolTipRow() {
     row->setSpacing(16);
     row->addWidget(m_toolTipButton);
     row->addWidget(m_toolTipSample);
+    m_moreInfo = new KaMoreInfoButton;
+    row->addSpacing(24);
+    row->addWidget(m_moreInfo);
     row->addStretch(1);
     contentLayout()->addLayout(row);
 }
@@ -217,4 +221,7 @@ void PopupsPage::retranslateUi() {
     m_toolTipButton->setText(tr("Hover for a tooltip"));
     m_toolTipButton->setToolTip(tr("Tooltips take the popover colours of the theme."));
     m_toolTipSample->setText(tr("Tooltips take the popover colours of the theme."));
+    m_moreInfo->setInfoText(
+        tr("A more-info button explains a setting in a text popover and reads the text out "
+           "to screen readers."));
 }

@@ -11,6 +11,7 @@ class KaLabel;
 class KaLabelBase;
 class KaPopover;
 class PopupPreview;
+class KaMoreInfoButton;
 class QLabel;
 class QPushButton;
 
@@ -46,5 +47,6 @@ private:
     PopupPreview* m_preview = nullptr;
     QPushButton* m_toolTipButton = nullptr;
     QLabel* m_toolTipSample = nullptr;
+    KaMoreInfoButton* m_moreInfo = nullptr;
     QPointer<KaPopover> m_popover;
 };

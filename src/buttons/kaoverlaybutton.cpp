@@ -1,0 +1,88 @@
+#include "kaoverlaybutton.h"
+
+#include <QEvent>
+
+KaOverlayButton::KaOverlayButton(QWidget* parent)
+    : IKaButton(parent, new KaOverlayButtonConfig)
+    , m_overlayConfig(qobject_cast<KaOverlayButtonConfig*>(buttonConfig())) {
+    m_overlayConfig->setParent(this);
+    // A None overlay would be invisible: start as the expand arrow.
+    m_overlayConfig->setType(KaOverlayButtonEnum::ExpandAreaOverlay);
+    connect(this, &IKaButton::refreshConfig, this, &KaOverlayButton::refresh);
+    updateDefaultAccessibleName();
+    refresh();
+}
+
+KaOverlayButton::KaOverlayButton(QWidget* parent, KaOverlayButtonEnum::Type type,
+                                 KaOverlayButtonEnum::Size size)
+    : KaOverlayButton(parent) {
+    setSize(size);
+    setType(type);
+}
+
+KaOverlayButton::~KaOverlayButton() = default;
+
+void KaOverlayButton::setSize(KaOverlayButtonEnum::Size size) {
+    if (!m_overlayConfig || size == m_overlayConfig->size())
+        return;
+    {
+        const ConfigWrite write(this);
+        m_overlayConfig->setSize(size);
+    }
+    Q_EMIT sizeChanged(size);
+    Q_EMIT refreshConfig();
+    updateGeometry();
+}
+
+KaOverlayButtonEnum::Size KaOverlayButton::size() const {
+    return m_overlayConfig ? m_overlayConfig->size() : KaOverlayButtonEnum::Normal;
+}
+
+void KaOverlayButton::setType(KaOverlayButtonEnum::Type type) {
+    if (!m_overlayConfig || type == m_overlayConfig->type())
+        return;
+    {
+        const ConfigWrite write(this);
+        m_overlayConfig->setType(type);
+    }
+    updateDefaultAccessibleName();
+    Q_EMIT typeChanged(type);
+    Q_EMIT refreshConfig();
+}
+
+KaOverlayButtonEnum::Type KaOverlayButton::type() const {
+    return m_overlayConfig ? m_overlayConfig->type() : KaOverlayButtonEnum::None;
+}
+
+void KaOverlayButton::refresh() {
+    if (!m_overlayConfig)
+        return;
+    KaOverlayButtonConfig::Geometry g;
+    m_overlayConfig->fillGeometry(g);
+    applyColors(g.colors, QString());
+    IKaButton::refresh(g);
+    setSvgIcon(g.svgIcon);
+    setSvgIconSize(g.svgIconSize);
+    setSvgIconAlignment(g.svgIconAlignment);
+    setSvgIconVisible(!g.svgIcon.isEmpty());
+    setAnchorIconVisible(false);
+    if (g.fixedHeight > 0) {
+        setFixedWidth(g.fixedHeight);
+        setFocusRadius(g.fixedHeight / 2.0);
+    }
+}
+
+void KaOverlayButton::updateDefaultAccessibleName() {
+    QString name;
+    if (type() == KaOverlayButtonEnum::ExpandAreaOverlay)
+        name = tr("Expand");
+    else if (type() == KaOverlayButtonEnum::CollapseAreaOverlay)
+        name = tr("Collapse");
+    setDefaultAccessibleName(name);
+}
+
+void KaOverlayButton::changeEvent(QEvent* event) {
+    IKaButton::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        updateDefaultAccessibleName();
+}

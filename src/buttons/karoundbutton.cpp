@@ -1,0 +1,35 @@
+#include "karoundbutton.h"
+
+KaRoundButton::KaRoundButton(QWidget* parent)
+    : KaButton(parent, new KaRoundButtonConfig) {
+    setSvgIconAlignment(BzEnum::AlignCenter);
+    connect(this, &IKaButton::refreshConfig, this, &KaRoundButton::refresh);
+    refresh();
+}
+
+KaRoundButton::KaRoundButton(QWidget* parent, KaButtonEnum::Style style, KaButtonEnum::Size size)
+    : KaRoundButton(parent) {
+    setSize(size);
+    setStyle(style);
+}
+
+KaRoundButton::~KaRoundButton() = default;
+
+void KaRoundButton::refresh() {
+    const auto* config = qobject_cast<const KaRoundButtonConfig*>(buttonConfig());
+    if (!config)
+        return;
+    KaRoundButtonConfig::Geometry g;
+    config->fillGeometry(g);
+    applyColors(g.colors, QString());
+    IKaButton::refresh(g);
+    setSvgIconSize(g.svgIconSize);
+    setSvgIconVisible(config->hasLeftIcon());
+    // The configuration refuses a right icon, but the path still reaches
+    // the base button: keep it hidden.
+    setAnchorIconVisible(false);
+    if (g.fixedHeight > 0) {
+        setFixedWidth(g.fixedHeight);
+        setFocusRadius(g.fixedHeight / 2.0);
+    }
+}

@@ -1,0 +1,209 @@
+#include "bzthememanager.h"
+#include "bzthemeutils.h"
+#include "kadialpadbutton.h"
+
+#include <QAccessible>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+QImage paint(QWidget& widget) {
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+QColor normal(const char* set) {
+    return BzThemeUtils::getColorSet(QString::fromLatin1(set)).normal();
+}
+
+// Whether a pixel close to `colour` lies within rows [top, bottom).
+bool inkIn(const QImage& image, const QColor& colour, int top, int bottom) {
+    for (int y = top; y < bottom; ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (qAbs(pixel.red() - colour.red()) < 12 && qAbs(pixel.green() - colour.green()) < 12 &&
+                qAbs(pixel.blue() - colour.blue()) < 12)
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+class tst_KaDialpadButton : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+    void keypadLayout_data();
+    void keypadLayout();
+    void clickEntersCharacter();
+    void longPressEntersAlternate();
+    void longPressWithoutAlternate();
+    void typingTheCharacter();
+    void digitAboveLetters();
+    void specialKey();
+    void circleBySize_data();
+    void circleBySize();
+};
+
+void tst_KaDialpadButton::keypadLayout_data() {
+    QTest::addColumn<QString>("character");
+    QTest::addColumn<QString>("letters");
+    QTest::addColumn<QString>("alternate");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("1") << "1"
+                       << ""
+                       << ""
+                       << "1";
+    QTest::newRow("2") << "2"
+                       << "ABC"
+                       << ""
+                       << "2 ABC";
+    QTest::newRow("7") << "7"
+                       << "PQRS"
+                       << ""
+                       << "7 PQRS";
+    QTest::newRow("9") << "9"
+                       << "WXYZ"
+                       << ""
+                       << "9 WXYZ";
+    QTest::newRow("0") << "0"
+                       << "+"
+                       << "+"
+                       << "0 +";
+    QTest::newRow("star") << "*"
+                          << ""
+                          << ""
+                          << "*";
+    QTest::newRow("hash") << "#"
+                          << ""
+                          << ""
+                          << "#";
+}
+
+void tst_KaDialpadButton::keypadLayout() {
+    QFETCH(QString, character);
+    QFETCH(QString, letters);
+    QFETCH(QString, alternate);
+    QFETCH(QString, name);
+    KaDialpadButton key(QStringLiteral("5"));
+    key.setCharacter(character);
+    QCOMPARE(key.letters(), letters);
+    QCOMPARE(key.alternateCharacter(), alternate);
+    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&key);
+    QVERIFY(iface);
+    QCOMPARE(iface->role(), QAccessible::PushButton);
+    QCOMPARE(iface->text(QAccessible::Name), name);
+}
+
+void tst_KaDialpadButton::clickEntersCharacter() {
+    KaDialpadButton key(QStringLiteral("0"));
+    QSignalSpy entered(&key, &KaDialpadButton::characterEntered);
+    QSignalSpy longPressed(&key, &KaDialpadButton::longPressed);
+    QTest::mouseClick(&key, Qt::LeftButton);
+    QCOMPARE(entered.count(), 1);
+    QCOMPARE(entered.at(0).at(0).toString(), QStringLiteral("0"));
+    QCOMPARE(longPressed.count(), 0);
+}
+
+void tst_KaDialpadButton::longPressEntersAlternate() {
+    KaDialpadButton key(QStringLiteral("0"));
+    key.setLongPressInterval(20);
+    QSignalSpy entered(&key, &KaDialpadButton::characterEntered);
+    QSignalSpy longPressed(&key, &KaDialpadButton::longPressed);
+    QTest::mousePress(&key, Qt::LeftButton);
+    QTRY_COMPARE(longPressed.count(), 1);
+    QCOMPARE(entered.count(), 1);
+    QCOMPARE(entered.at(0).at(0).toString(), QStringLiteral("+"));
+    // The release after a long press enters nothing more.
+    QTest::mouseRelease(&key, Qt::LeftButton);
+    QCOMPARE(entered.count(), 1);
+    // And the next short press is an ordinary one again.
+    key.setLongPressInterval(60000);
+    QTest::mouseClick(&key, Qt::LeftButton);
+    QCOMPARE(entered.count(), 2);
+    QCOMPARE(entered.at(1).at(0).toString(), QStringLiteral("0"));
+}
+
+void tst_KaDialpadButton::longPressWithoutAlternate() {
+    KaDialpadButton key(QStringLiteral("5"));
+    key.setLongPressInterval(1);
+    QSignalSpy entered(&key, &KaDialpadButton::characterEntered);
+    QSignalSpy longPressed(&key, &KaDialpadButton::longPressed);
+    QTest::mousePress(&key, Qt::LeftButton);
+    // Let a timer of the interval run out if one were started.
+    QSignalSpy released(&key, &QAbstractButton::released);
+    QTimer::singleShot(10, &key, [&key] { QTest::mouseRelease(&key, Qt::LeftButton); });
+    QVERIFY(released.wait());
+    QCOMPARE(longPressed.count(), 0);
+    QCOMPARE(entered.count(), 1);
+    QCOMPARE(entered.at(0).at(0).toString(), QStringLiteral("5"));
+}
+
+void tst_KaDialpadButton::typingTheCharacter() {
+    QWidget window;
+    auto* key = new KaDialpadButton(QStringLiteral("#"), &window);
+    window.show();
+    key->setFocus();
+    QSignalSpy entered(key, &KaDialpadButton::characterEntered);
+    QTest::keyClick(key, Qt::Key_3);
+    QCOMPARE(entered.count(), 0);
+    QTest::keyClick(key, Qt::Key_NumberSign, Qt::NoModifier);
+    QTRY_COMPARE(entered.count(), 1);
+    QCOMPARE(entered.at(0).at(0).toString(), QStringLiteral("#"));
+}
+
+// The digit in the number colour above the letters in the letters colour
+// (antialiased digit edges pass through the lighter letters colour, so only
+// the darker number colour can be ruled out below).
+void tst_KaDialpadButton::digitAboveLetters() {
+    KaDialpadButton key(QStringLiteral("8"));
+    key.resize(56, 56);
+    const QImage image = paint(key);
+    const QColor number = normal("button-dialpad-text-number");
+    const QColor letters = normal("button-dialpad-text-characters");
+    const int middle = image.height() / 2 + 2;
+    QVERIFY(inkIn(image, number, 0, middle));
+    QVERIFY(!inkIn(image, number, middle + 2, image.height()));
+    QVERIFY(inkIn(image, letters, middle, image.height()));
+}
+
+void tst_KaDialpadButton::specialKey() {
+    KaDialpadButton key(QStringLiteral("*"));
+    key.resize(56, 56);
+    const QPoint face(28, 6);
+    QCOMPARE(paint(key).pixelColor(face).rgb(), normal("button-dialpad-background").rgb());
+    QSignalSpy spy(&key, &KaDialpadButton::specialChanged);
+    key.setSpecial(true);
+    key.setSpecial(true);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(paint(key).pixelColor(face).rgb(), normal("button-dialpad-special-background").rgb());
+    QCOMPARE(key.getWCSS().textColorSet, QStringLiteral("button-dialpad-special-text-number"));
+}
+
+void tst_KaDialpadButton::circleBySize_data() {
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("diameter");
+    QTest::newRow("ExtraLarge") << int(KaButtonEnum::ExtraLarge) << 72;
+    QTest::newRow("Large") << int(KaButtonEnum::Large) << 64;
+    QTest::newRow("Normal") << int(KaButtonEnum::Normal) << 56;
+    QTest::newRow("Small") << int(KaButtonEnum::Small) << 48;
+}
+
+void tst_KaDialpadButton::circleBySize() {
+    QFETCH(int, size);
+    QFETCH(int, diameter);
+    KaDialpadButton key(QStringLiteral("4"));
+    key.setSize(KaButtonEnum::Size(size));
+    QCOMPARE(key.minimumSize(), QSize(diameter, diameter));
+    QCOMPARE(key.maximumSize(), QSize(diameter, diameter));
+    QCOMPARE(key.property("focusBorderRadius").toReal(), diameter / 2.0);
+}
+
+QTEST_MAIN(tst_KaDialpadButton)
+#include "tst_kadialpadbutton.moc"

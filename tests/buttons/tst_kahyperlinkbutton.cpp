@@ -1,0 +1,161 @@
+#include "bzthememanager.h"
+#include "bzthemeutils.h"
+#include "kahyperlinkbutton.h"
+
+#include <QAccessible>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+QImage paint(QWidget& widget) {
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+BzColorSet linkText() {
+    return BzThemeUtils::getColorSet(QStringLiteral("button-hyperlink-text"));
+}
+
+bool near(const QColor& a, const QColor& b, int tolerance) {
+    return qAbs(a.red() - b.red()) <= tolerance && qAbs(a.green() - b.green()) <= tolerance &&
+           qAbs(a.blue() - b.blue()) <= tolerance;
+}
+
+// The longest horizontal run of opaque pixels close to `colour` in the rows
+// below the text's vertical centre: an underline is one long run, glyphs
+// are short ones.
+int longestRunBelowCentre(const QImage& image, const QColor& colour) {
+    int longest = 0;
+    for (int y = image.height() / 2 + 1; y < image.height(); ++y) {
+        int run = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            run = pixel.alpha() > 200 && near(pixel, colour, 40) ? run + 1 : 0;
+            longest = qMax(longest, run);
+        }
+    }
+    return longest;
+}
+
+} // namespace
+
+class tst_KaHyperlinkButton : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+    void linkColours();
+    void underlinedOnHover();
+    void alwaysUnderline();
+    void geometryBySize_data();
+    void geometryBySize();
+    void iconWidensButton();
+    void accessibility();
+};
+
+void tst_KaHyperlinkButton::linkColours() {
+    KaHyperlinkButton link(QStringLiteral("Learn more"));
+    const BzCSSData record = link.getWCSS();
+    QCOMPARE(record.backgroundColorSet, QStringLiteral("button-hyperlink-background"));
+    QCOMPARE(record.borderColorSet, QStringLiteral("button-hyperlink-border"));
+    QCOMPARE(record.textColorSet, QStringLiteral("button-hyperlink-text"));
+    QCOMPARE(record.borderRadius, 4);
+    QCOMPARE(link.cursor().shape(), Qt::PointingHandCursor);
+
+    link.resize(link.sizeHint());
+    // The face is invisible at rest and the text is painted in link colour.
+    const QImage image = paint(link);
+    QCOMPARE(image.pixelColor(2, 2).alpha(), 0);
+    bool linkColoured = false;
+    for (int y = 0; y < image.height() && !linkColoured; ++y) {
+        for (int x = 0; x < image.width() && !linkColoured; ++x)
+            linkColoured = image.pixelColor(x, y).rgb() == linkText().normal().rgb();
+    }
+    QVERIFY(linkColoured);
+}
+
+void tst_KaHyperlinkButton::underlinedOnHover() {
+    QWidget window;
+    auto* link = new KaHyperlinkButton(QStringLiteral("Learn more"), &window);
+    link->move(20, 20);
+    window.resize(200, 80);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTest::mouseMove(&window, QPoint(5, 5));
+    QVERIFY(!link->isUnderlined());
+    link->resize(link->sizeHint());
+    const int textWidth = link->fontMetrics().horizontalAdvance(link->text());
+    const QImage plain = paint(*link);
+    QVERIFY(longestRunBelowCentre(plain, linkText().normal()) < textWidth / 2);
+
+    QTest::mouseMove(link, link->rect().center());
+    QTRY_VERIFY(link->isUnderlined());
+    link->setAttribute(Qt::WA_UnderMouse, true);
+    const QImage hovered = paint(*link);
+    QVERIFY(longestRunBelowCentre(hovered, linkText().hovered()) >= textWidth * 9 / 10);
+
+    QTest::mouseMove(&window, QPoint(5, 5));
+    QTRY_VERIFY(!link->isUnderlined());
+
+    // A disabled link does not react to the pointer.
+    link->setEnabled(false);
+    QTest::mouseMove(link, link->rect().center());
+    QTRY_VERIFY(link->underMouse());
+    QVERIFY(!link->isUnderlined());
+}
+
+void tst_KaHyperlinkButton::alwaysUnderline() {
+    KaHyperlinkButton link(QStringLiteral("Terms"));
+    QSignalSpy spy(&link, &KaHyperlinkButton::alwaysUnderlineChanged);
+    link.setAlwaysUnderline(true);
+    link.setAlwaysUnderline(true);
+    QCOMPARE(spy.count(), 1);
+    QVERIFY(link.isUnderlined());
+    link.setAlwaysUnderline(false);
+    QVERIFY(!link.isUnderlined());
+}
+
+void tst_KaHyperlinkButton::geometryBySize_data() {
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<int>("pixelSize");
+    QTest::newRow("ExtraLarge") << int(KaButtonEnum::ExtraLarge) << 40 << 14;
+    QTest::newRow("Large") << int(KaButtonEnum::Large) << 32 << 14;
+    QTest::newRow("Normal") << int(KaButtonEnum::Normal) << 28 << 13;
+    QTest::newRow("Small") << int(KaButtonEnum::Small) << 28 << 13;
+    QTest::newRow("ExtraSmall") << int(KaButtonEnum::ExtraSmall) << 24 << 11;
+}
+
+void tst_KaHyperlinkButton::geometryBySize() {
+    QFETCH(int, size);
+    QFETCH(int, height);
+    QFETCH(int, pixelSize);
+    KaHyperlinkButton link(QStringLiteral("Learn more"));
+    link.setSize(KaButtonEnum::Size(size));
+    QCOMPARE(link.minimumHeight(), height);
+    QCOMPARE(link.maximumHeight(), height);
+    QCOMPARE(link.font().pixelSize(), pixelSize);
+}
+
+void tst_KaHyperlinkButton::iconWidensButton() {
+    KaHyperlinkButton link(QStringLiteral("Open"));
+    const int plain = link.sizeHint().width();
+    link.setLeftIcon(QStringLiteral("qrc:/Resources/pop-out-regular.svg"));
+    // Normal: a 16 px icon and 4 px spacing.
+    QCOMPARE(link.sizeHint().width(), plain + 20);
+    link.setLeftIcon(QString());
+    QCOMPARE(link.sizeHint().width(), plain);
+}
+
+void tst_KaHyperlinkButton::accessibility() {
+    KaHyperlinkButton link(QStringLiteral("Privacy statement"));
+    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&link);
+    QVERIFY(iface);
+    QCOMPARE(iface->role(), QAccessible::PushButton);
+    QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Privacy statement"));
+}
+
+QTEST_MAIN(tst_KaHyperlinkButton)
+#include "tst_kahyperlinkbutton.moc"
