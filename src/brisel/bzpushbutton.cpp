@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QStaticText>
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
 #include <QTextDocument>
@@ -154,6 +155,7 @@ void BzPushButton::setTextFormat(Qt::TextFormat format) {
     if (m_textFormat == format)
         return;
     m_textFormat = format;
+    invalidateTextCache();
     updateGeometry();
     update();
     Q_EMIT textFormatChanged();
@@ -204,6 +206,7 @@ void BzPushButton::setElideMode(Qt::TextElideMode mode) {
     if (m_elideMode == mode)
         return;
     m_elideMode = mode;
+    invalidateTextCache();
     updateGeometry();
     update();
     Q_EMIT elideModeChanged();
@@ -214,6 +217,7 @@ void BzPushButton::setElidePadding(int padding) {
     if (m_elidePadding == padding)
         return;
     m_elidePadding = padding;
+    invalidateTextCache();
     update();
     Q_EMIT elidePaddingChanged();
 }
@@ -354,6 +358,12 @@ int BzPushButton::textFlags() const {
     return flags;
 }
 
+void BzPushButton::invalidateTextCache() {
+    m_textCached = false;
+    m_fitRoom = -1;
+    m_staticText.reset();
+}
+
 QSize BzPushButton::textSize() const {
     const QString t = text();
     if (t.isEmpty())
@@ -362,8 +372,14 @@ QSize BzPushButton::textSize() const {
         const QTextDocument* doc = document();
         return QSize(qCeil(doc->idealWidth()), qCeil(doc->size().height()));
     }
-    return QSize(fontMetrics().size(Qt::TextSingleLine | Qt::TextShowMnemonic, t).width(),
-                 fontMetrics().height());
+    if (!m_textCached || m_textSource != t) {
+        m_textCached = true;
+        m_textSource = t;
+        m_fitRoom = -1;
+        const QFontMetrics fm = fontMetrics();
+        m_textNatural = QSize(fm.size(Qt::TextSingleLine | Qt::TextShowMnemonic, t).width(), fm.height());
+    }
+    return m_textNatural;
 }
 
 void BzPushButton::decorations(Decorations*) const {}
@@ -400,13 +416,22 @@ BzPushButton::Geometry BzPushButton::contentGeometry() const {
     const int natural = in.text.width();
     const auto fit = [&](int room) {
         g.shownText = full;
+        g.shownWidth = natural;
         if (natural <= room || rich || m_elideMode == Qt::ElideNone)
             return qMin(natural, room);
-        const QFontMetrics fm = fontMetrics();
-        g.shownText = fm.elidedText(full, m_elideMode, qMax(0, room - m_elidePadding), Qt::TextShowMnemonic);
-        return g.shownText.isEmpty()
-                   ? 0
-                   : fm.size(Qt::TextSingleLine | Qt::TextShowMnemonic, g.shownText).width();
+        // textSize() above refreshed the cache for this text and font.
+        if (m_fitRoom != room) {
+            const QFontMetrics fm = fontMetrics();
+            m_fitText =
+                fm.elidedText(full, m_elideMode, qMax(0, room - m_elidePadding), Qt::TextShowMnemonic);
+            m_fitWidth = m_fitText.isEmpty()
+                             ? 0
+                             : fm.size(Qt::TextSingleLine | Qt::TextShowMnemonic, m_fitText).width();
+            m_fitRoom = room;
+        }
+        g.shownText = m_fitText;
+        g.shownWidth = m_fitWidth;
+        return m_fitWidth;
     };
     const BzButtonLayoutResult r = BzButtonPainter::layout(in, fit);
     g.text = r.text;
@@ -439,9 +464,35 @@ QSize BzPushButton::minimumSizeHint() const {
 }
 
 QStyle::State BzPushButton::paintState() const {
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    return option.state;
+    // A full style option also measures fonts and asks the style for the
+    // icon size; per paint only the state bits are needed. An attached menu
+    // sinks the button while open, which only the full option knows.
+    if (menu()) {
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        return option.state;
+    }
+    const QWidget* window = this->window();
+    QStyle::State state = QStyle::State_None;
+    if (isEnabled())
+        state |= QStyle::State_Enabled;
+    if (hasFocus())
+        state |= QStyle::State_HasFocus;
+    if (window->testAttribute(Qt::WA_KeyboardFocusChange))
+        state |= QStyle::State_KeyboardFocusChange;
+    if (underMouse())
+        state |= QStyle::State_MouseOver;
+    if (window->isActiveWindow())
+        state |= QStyle::State_Active;
+    if (isWindow())
+        state |= QStyle::State_Window;
+    if (isDown())
+        state |= QStyle::State_Sunken;
+    if (isChecked())
+        state |= QStyle::State_On;
+    if (!isFlat() && !isDown())
+        state |= QStyle::State_Raised;
+    return state;
 }
 
 QColor BzPushButton::stateColor(const BzColorSet& set, QStyle::State state) const {
@@ -482,15 +533,34 @@ void BzPushButton::paintEvent(QPaintEvent*) {
             painter.restore();
         } else {
             // Text that does not fit and is not elided keeps its start visible.
-            const bool fits =
-                fontMetrics().size(Qt::TextSingleLine | Qt::TextShowMnemonic, g.shownText).width() <=
-                g.text.width();
-            const Qt::Alignment horizontal =
-                fits ? Qt::AlignHCenter
-                     : (layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft) |
-                           Qt::AlignAbsolute;
+            const bool fits = g.shownWidth <= g.text.width();
             painter.setPen(textColor);
-            painter.drawText(g.text, int(horizontal | Qt::AlignVCenter) | textFlags(), g.shownText);
+            if (fits && !g.shownText.contains(QLatin1Char('&'))) {
+                // Same placement as drawText() centring one line, without
+                // shaping the text again on every paint.
+                if (!m_staticText || m_staticText->text() != g.shownText ||
+                    m_staticText->textOption().textDirection() != layoutDirection()) {
+                    m_staticText.reset(new QStaticText(g.shownText));
+                    m_staticText->setTextFormat(Qt::PlainText);
+                    QTextOption option;
+                    option.setWrapMode(QTextOption::NoWrap);
+                    option.setTextDirection(layoutDirection());
+                    m_staticText->setTextOption(option);
+                    m_staticText->prepare(QTransform(), font());
+                }
+                const QFontMetricsF fm(font());
+                const qreal w = m_staticText->size().width();
+                const qreal h = fm.ascent() + fm.descent();
+                painter.drawStaticText(
+                    QPointF(g.text.x() + (g.text.width() - w) / 2, g.text.y() + (g.text.height() - h) / 2),
+                    *m_staticText);
+            } else {
+                const Qt::Alignment horizontal =
+                    fits ? Qt::AlignHCenter
+                         : (layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft) |
+                               Qt::AlignAbsolute;
+                painter.drawText(g.text, int(horizontal | Qt::AlignVCenter) | textFlags(), g.shownText);
+            }
         }
     }
 
@@ -532,7 +602,11 @@ void BzPushButton::changeEvent(QEvent* event) {
         break;
     }
     case QEvent::LayoutDirectionChange:
+        m_staticText.reset();
         update();
+        break;
+    case QEvent::FontChange:
+        invalidateTextCache();
         break;
     default:
         break;

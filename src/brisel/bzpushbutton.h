@@ -17,6 +17,7 @@
 class BzScaledFont;
 struct BzButtonLayoutInput;
 class BzWidgetTheme;
+class QStaticText;
 class QTextDocument;
 
 // The base layer's push button. It paints itself from the colour sets of its
@@ -159,6 +160,8 @@ protected:
     struct Geometry {
         QRect text;
         QString shownText;
+        // Width of shownText at the button's font.
+        int shownWidth = 0;
         QRect icon;
         QRect anchor;
     };
@@ -219,6 +222,16 @@ private:
     quint64 m_plainGeneration = 0;
     BzThemeUtils::AppThemeType m_plainType = BzThemeUtils::Global;
     bool m_plainResolved = false;
+    void invalidateTextCache();
+    // Plain-text measurements, redone only when the text, font, elide
+    // settings or the room change; painting itself shapes nothing.
+    mutable bool m_textCached = false;
+    mutable QString m_textSource;
+    mutable QSize m_textNatural;
+    mutable int m_fitRoom = -1;
+    mutable QString m_fitText;
+    mutable int m_fitWidth = 0;
+    mutable std::unique_ptr<QStaticText> m_staticText;
     mutable std::unique_ptr<QTextDocument> m_document;
     mutable QString m_documentSource;
     mutable int m_documentFormat = -1;

@@ -19,9 +19,25 @@ namespace {
 
 const QString kResourcePrefix = QStringLiteral(":/Resources/");
 
-QCache<QString, QPixmap>& pixmapCache() {
+// A plain struct key: building a formatted string per lookup cost more than
+// the draw itself for small icons.
+struct PixmapKey {
+    QString path;
+    QSize deviceSize;
+    QRgb rgba;
+    qreal dpr;
+    bool operator==(const PixmapKey& o) const {
+        return deviceSize == o.deviceSize && rgba == o.rgba && dpr == o.dpr && path == o.path;
+    }
+};
+
+size_t qHash(const PixmapKey& k, size_t seed = 0) {
+    return qHashMulti(seed, k.path, k.deviceSize.width(), k.deviceSize.height(), k.rgba, k.dpr);
+}
+
+QCache<PixmapKey, QPixmap>& pixmapCache() {
     // Cost in KiB: room for a few thousand small icons.
-    static QCache<QString, QPixmap> cache(16 * 1024);
+    static QCache<PixmapKey, QPixmap> cache(16 * 1024);
     static const bool cleanupRegistered = [] {
         // Pixmaps must not outlive the GUI application.
         qAddPostRoutine([] { pixmapCache().clear(); });
@@ -59,13 +75,8 @@ bool looksLikeSvg(const QByteArray& data) {
     return sawRoot && !xml.hasError();
 }
 
-QString cacheKey(const QString& path, const QSize& deviceSize, const QColor& color, qreal dpr) {
-    return QStringLiteral("%1|%2x%3|%4|%5")
-        .arg(path)
-        .arg(deviceSize.width())
-        .arg(deviceSize.height())
-        .arg(color.rgba(), 8, 16, QLatin1Char('0'))
-        .arg(dpr, 0, 'g', 6);
+PixmapKey cacheKey(const QString& path, const QSize& deviceSize, const QColor& color, qreal dpr) {
+    return PixmapKey{path, deviceSize, color.rgba(), dpr};
 }
 
 } // namespace
@@ -176,8 +187,8 @@ QPixmap BzSvgRenderer::tintedPixmap(const QSizeF& logicalSize, const QColor& col
     if (deviceSize.isEmpty())
         return QPixmap();
 
-    QCache<QString, QPixmap>& cache = pixmapCache();
-    const QString key = cacheKey(m_path, deviceSize, color, devicePixelRatio);
+    QCache<PixmapKey, QPixmap>& cache = pixmapCache();
+    const PixmapKey key = cacheKey(m_path, deviceSize, color, devicePixelRatio);
     if (const QPixmap* cached = cache.object(key))
         return *cached;
 

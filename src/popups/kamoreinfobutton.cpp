@@ -77,9 +77,9 @@ void KaMoreInfoButton::togglePopup() {
 void KaMoreInfoButton::showPopup() {
     if (m_infoText.isEmpty() || isPopupVisible())
         return;
-    KaWidgetData data;
-    data.arrowPostion(arrowFor(m_direction));
-    m_popover = KaPopover::createAndShowTextPopover(this, window(), m_infoText, data);
+    KaWidgetData request;
+    request.arrowPostion(arrowFor(m_direction));
+    m_popover = KaPopover::createAndShowTextPopover(this, window(), m_infoText, request);
     if (!m_popover)
         return;
     if (QWidget* text = m_popover->contentWidget())

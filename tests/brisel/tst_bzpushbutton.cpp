@@ -79,6 +79,7 @@ private Q_SLOTS:
     void focusRadiusFollowsGeometry();
     void elidesWhenNarrow_data();
     void elidesWhenNarrow();
+    void textCacheFollowsChanges();
     void textAlignment_data();
     void textAlignment();
     void sizeHintGrows();
@@ -139,6 +140,55 @@ void TestBzPushButton::faceFollowsState() {
     const QColor face = paint(button).pixelColor(3, 15);
     const QColor want = set("button-secondary-background").color(BzColorSet::State(expected));
     QCOMPARE(face.name(QColor::HexArgb), want.name(QColor::HexArgb));
+}
+
+void TestBzPushButton::textCacheFollowsChanges() {
+    // Measurements are kept between paints; every input must drop them.
+    const QString text = QStringLiteral("The quick brown fox jumps over the lazy dog");
+    BzPushButton button(text);
+    button.setCSS(primary());
+    button.resize(100, 30);
+    const auto ink = [&button] {
+        return inkColumns(paint(button), set("button-primary-background").normal());
+    };
+    const QString shown = button.elidedText();
+    QVERIFY(shown.startsWith(QLatin1String("The")));
+    const auto wideInk = ink();
+
+    button.setText(QStringLiteral("Jumps over the lazy dog, the quick brown fox"));
+    QVERIFY(button.elidedText().startsWith(QLatin1String("Jumps")));
+
+    button.setText(QStringLiteral("Hi"));
+    QCOMPARE(button.elidedText(), QStringLiteral("Hi"));
+    const auto shortInk = ink();
+    QVERIFY(shortInk.first > wideInk.first);
+
+    // A bigger font makes the same text wider.
+    QFont big = button.font();
+    big.setPixelSize(QFontInfo(big).pixelSize() * 3);
+    button.setFont(big);
+    const auto bigInk = ink();
+    QVERIFY(bigInk.second - bigInk.first > shortInk.second - shortInk.first);
+
+    // Same text, new font: the elision must be measured again.
+    button.setFont(QFont());
+    button.setText(text);
+    QCOMPARE(button.elidedText(), shown);
+    button.setFont(big);
+    QVERIFY(button.elidedText().size() < shown.size());
+    button.setFont(QFont());
+    button.resize(button.sizeHint());
+    QCOMPARE(button.elidedText(), text);
+    button.resize(100, 30);
+    QCOMPARE(button.elidedText(), shown);
+
+    button.setElideMode(Qt::ElideLeft);
+    QVERIFY(button.elidedText().endsWith(QLatin1String("dog")));
+    const QString left = button.elidedText();
+    button.setElidePadding(40);
+    QVERIFY(button.elidedText().size() < left.size());
+    button.setElideMode(Qt::ElideNone);
+    QCOMPARE(button.elidedText(), text);
 }
 
 void TestBzPushButton::textInTextColour() {

@@ -34,6 +34,9 @@ class TestButton : public IKaButton {
 public:
     explicit TestButton(IKaButtonConfig* config, QWidget* parent = nullptr)
         : IKaButton(parent, config) {
+        // IKaButton only guards its configuration; the concrete button owns it.
+        if (config && !config->parent())
+            config->setParent(this);
         connect(this, &IKaButton::refreshConfig, this, &TestButton::refresh);
         refresh();
     }
