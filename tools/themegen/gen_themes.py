@@ -820,15 +820,15 @@ RULES = [
     (r"welcomeCard-titleText", "text:1"),
     (r"welcomeCard-descriptionText", "text:2"),
 ]
-_COMPILED = [(re.compile(p), spec) for p, spec in RULES]
+_COMPILED = [(re.compile(p), recipe) for p, recipe in RULES]
 
 
 def classify(name):
-    for rx, spec in _COMPILED:
+    for rx, recipe in _COMPILED:
         m = rx.fullmatch(name)
         if m:
-            spec = re.sub(r"\{(\d)\}", lambda g: m.group(int(g.group(1))), spec)
-            parts = spec.split()
+            recipe = re.sub(r"\{(\d)\}", lambda g: m.group(int(g.group(1))), recipe)
+            parts = recipe.split()
             role, _, arg = parts[0].partition(":")
             flags = set(parts[1:])
             return role, arg, flags
@@ -1081,18 +1081,18 @@ def opaque_bg(sets, bgname, state=N):
 
 def generate(T, names, verbose=False):
     problems = []
-    specs = {}
+    recipes = {}
     for n in names:
         c = classify(n)
         if c is None:
             problems.append("missing %s: no rule matches it" % n)
             continue
-        specs[n] = c
+        recipes[n] = c
     if problems:
         return None, problems
 
     normal = {}
-    for n, (role, arg, flags) in specs.items():
+    for n, (role, arg, flags) in recipes.items():
         col = normal_color(T, role, arg, n)
         for f in flags:
             if f.startswith("~"):
@@ -1116,7 +1116,7 @@ def generate(T, names, verbose=False):
             normal[f] = new
 
     sets = {}
-    for n, (role, arg, flags) in specs.items():
+    for n, (role, arg, flags) in recipes.items():
         sets[n] = derive_states(T, n, role, arg, flags, normal[n])
 
     # Keep text readable in the passing states too: 3:1 (the large-text
@@ -1129,7 +1129,7 @@ def generate(T, names, verbose=False):
             sets[f][s], _ = adjust(sets[f][s], bg, state_target, snap=T["hc"])
 
     if T["hc"]:
-        for n, (role, arg, flags) in specs.items():
+        for n, (role, arg, flags) in recipes.items():
             if category(role, n) == "fg" and any(c[3] != 255 for c in sets[n]):
                 problems.append("translucent text in high contrast: %s" % n)
 
