@@ -147,6 +147,19 @@ protected:
         IKaButton* m_button;
     };
 
+    // Writes one configuration field for a button setter. Does nothing
+    // without a configuration or when the field already holds `value`;
+    // returns whether it changed, so that the setter then emits its own
+    // change signal and refreshConfig().
+    template <typename Config, typename Get, typename Set, typename Value>
+    bool writeConfig(Config* config, Get get, Set set, const Value& value) {
+        if (!config || (config->*get)() == value)
+            return false;
+        const ConfigWrite write(this);
+        (config->*set)(value);
+        return true;
+    }
+
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;

@@ -79,13 +79,9 @@ bool KaDialpadButton::isSpecial() const {
 }
 
 void KaDialpadButton::setSpecial(bool special) {
-    KaDialpadButtonConfig* config = dialpadConfig();
-    if (!config || special == config->isSpecial())
+    if (!writeConfig(dialpadConfig(), &KaDialpadButtonConfig::isSpecial, &KaDialpadButtonConfig::setSpecial,
+                     special))
         return;
-    {
-        const ConfigWrite write(this);
-        config->setSpecial(special);
-    }
     Q_EMIT specialChanged(special);
     Q_EMIT refreshConfig();
 }
@@ -96,13 +92,8 @@ KaButtonEnum::Size KaDialpadButton::size() const {
 }
 
 void KaDialpadButton::setSize(KaButtonEnum::Size size) {
-    KaDialpadButtonConfig* config = dialpadConfig();
-    if (!config || size == config->size())
+    if (!writeConfig(dialpadConfig(), &KaDialpadButtonConfig::size, &KaDialpadButtonConfig::setSize, size))
         return;
-    {
-        const ConfigWrite write(this);
-        config->setSize(size);
-    }
     Q_EMIT sizeChanged(size);
     Q_EMIT refreshConfig();
     updateGeometry();

@@ -90,13 +90,8 @@ KaButtonEnum::Size KaEmojiPushButton::size() const {
 }
 
 void KaEmojiPushButton::setSize(KaButtonEnum::Size size) {
-    KaEmojiPushButtonConfig* config = emojiConfig();
-    if (!config || size == config->size())
+    if (!writeConfig(emojiConfig(), &KaEmojiPushButtonConfig::size, &KaEmojiPushButtonConfig::setSize, size))
         return;
-    {
-        const ConfigWrite write(this);
-        config->setSize(size);
-    }
     Q_EMIT sizeChanged(size);
     Q_EMIT refreshConfig();
     updateGeometry();

@@ -82,13 +82,8 @@ QSize KaGifButton::imageSize() const {
 }
 
 void KaGifButton::setImageSize(const QSize& size) {
-    KaGifButtonConfig* config = gifConfig();
-    if (!config || size == config->imageSize())
+    if (!writeConfig(gifConfig(), &KaGifButtonConfig::imageSize, &KaGifButtonConfig::setImageSize, size))
         return;
-    {
-        const ConfigWrite write(this);
-        config->setImageSize(size);
-    }
     Q_EMIT imageSizeChanged(size);
     Q_EMIT refreshConfig();
     updateGeometry();

@@ -29,13 +29,9 @@ KaButtonEnum::Size KaHyperlinkButton::size() const {
 }
 
 void KaHyperlinkButton::setSize(KaButtonEnum::Size size) {
-    KaHyperlinkButtonConfig* config = hyperlinkConfig();
-    if (!config || size == config->size())
+    if (!writeConfig(hyperlinkConfig(), &KaHyperlinkButtonConfig::size, &KaHyperlinkButtonConfig::setSize,
+                     size))
         return;
-    {
-        const ConfigWrite write(this);
-        config->setSize(size);
-    }
     Q_EMIT sizeChanged(size);
     Q_EMIT refreshConfig();
     updateGeometry();
@@ -47,13 +43,9 @@ bool KaHyperlinkButton::alwaysUnderline() const {
 }
 
 void KaHyperlinkButton::setAlwaysUnderline(bool always) {
-    KaHyperlinkButtonConfig* config = hyperlinkConfig();
-    if (!config || always == config->alwaysUnderline())
+    if (!writeConfig(hyperlinkConfig(), &KaHyperlinkButtonConfig::alwaysUnderline,
+                     &KaHyperlinkButtonConfig::setAlwaysUnderline, always))
         return;
-    {
-        const ConfigWrite write(this);
-        config->setAlwaysUnderline(always);
-    }
     Q_EMIT alwaysUnderlineChanged(always);
     Q_EMIT refreshConfig();
 }

@@ -29,13 +29,8 @@ KaTitleBarButtonConfig::Type KaTitleBarButton::type() const {
 }
 
 void KaTitleBarButton::setType(KaTitleBarButtonConfig::Type type) {
-    KaTitleBarButtonConfig* config = titleBarConfig();
-    if (!config || type == config->type())
+    if (!writeConfig(titleBarConfig(), &KaTitleBarButtonConfig::type, &KaTitleBarButtonConfig::setType, type))
         return;
-    {
-        const ConfigWrite write(this);
-        config->setType(type);
-    }
     Q_EMIT typeChanged(type);
     Q_EMIT refreshConfig();
 }
@@ -46,13 +41,8 @@ KaButtonEnum::Size KaTitleBarButton::size() const {
 }
 
 void KaTitleBarButton::setSize(KaButtonEnum::Size size) {
-    KaTitleBarButtonConfig* config = titleBarConfig();
-    if (!config || size == config->size())
+    if (!writeConfig(titleBarConfig(), &KaTitleBarButtonConfig::size, &KaTitleBarButtonConfig::setSize, size))
         return;
-    {
-        const ConfigWrite write(this);
-        config->setSize(size);
-    }
     Q_EMIT sizeChanged(size);
     Q_EMIT refreshConfig();
     updateGeometry();
