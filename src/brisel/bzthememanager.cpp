@@ -39,7 +39,7 @@ BzThemeManager::BzThemeManager(QObject* parent)
     : QObject(parent)
     , d(new Private) {
     for (int i = 0; i < 3; ++i) {
-        QFile file(QLatin1String(kBuiltInFiles[i]));
+        QFile file{QLatin1String(kBuiltInFiles[i])};
         QList<BzTheme::Problem> problems;
         std::optional<BzTheme> theme;
         if (file.open(QIODevice::ReadOnly))
