@@ -39,6 +39,16 @@ BzTheme::Problem problemAt(const QByteArray& json, BzTheme::Problem::Kind kind, 
     return p;
 }
 
+bool isAsciiLetter(QChar c) {
+    const char16_t u = c.unicode();
+    return (u >= u'a' && u <= u'z') || (u >= u'A' && u <= u'Z');
+}
+
+bool isHexDigit(QChar c) {
+    const char16_t u = c.unicode();
+    return (u >= u'0' && u <= u'9') || (u >= u'a' && u <= u'f') || (u >= u'A' && u <= u'F');
+}
+
 } // namespace
 
 BzTheme::BzTheme()
@@ -52,18 +62,22 @@ QColor BzTheme::parseColor(const QString& text) {
     if (t.compare(QLatin1String("transparent"), Qt::CaseInsensitive) == 0)
         return QColor(0, 0, 0, 0);
     if (t.startsWith(QLatin1Char('#'))) {
-        // Theme files write alpha last; QColor expects it first.
-        if (t.size() == 9) {
-            bool ok = false;
-            const uint v = t.mid(1).toUInt(&ok, 16);
-            if (!ok)
-                return QColor();
+        // Hex digits only: a number conversion would also take "0x", a sign
+        // or a blank.
+        const QStringView digits = QStringView(t).mid(1);
+        const bool hex = std::all_of(digits.begin(), digits.end(), isHexDigit);
+        if (!hex || (digits.size() != 3 && digits.size() != 6 && digits.size() != 8))
+            return QColor();
+        if (digits.size() == 8) {
+            // Theme files write alpha last; QColor expects it first.
+            const uint v = digits.toUInt(nullptr, 16);
             return QColor(int(v >> 24) & 0xff, int(v >> 16) & 0xff, int(v >> 8) & 0xff, int(v) & 0xff);
         }
-        if (t.size() != 4 && t.size() != 7)
-            return QColor();
+        return QColor::fromString(t);
     }
-    if (!QColor::isValidColorName(t))
+    // SVG keywords are plain letters; QColor alone would also take blanks in them.
+    const bool letters = !t.isEmpty() && std::all_of(t.begin(), t.end(), isAsciiLetter);
+    if (!letters || !QColor::isValidColorName(t))
         return QColor();
     return QColor::fromString(t);
 }

@@ -53,6 +53,10 @@ void TestBzTheme::parseColor_data() {
     QTest::newRow("transparent") << "Transparent" << QColor(0, 0, 0, 0);
     QTest::newRow("five digits") << "#12345" << QColor();
     QTest::newRow("not hex") << "#gg0000" << QColor();
+    QTest::newRow("0x prefix") << "#0x123456" << QColor();
+    QTest::newRow("plus sign") << "#+1234567" << QColor();
+    QTest::newRow("inner blank") << "# 1234567" << QColor();
+    QTest::newRow("blank in keyword") << "na vy" << QColor();
     QTest::newRow("garbage") << "blurple" << QColor();
     QTest::newRow("empty") << "" << QColor();
 }
@@ -77,6 +81,8 @@ void TestBzTheme::faults_data() {
                             << int(BzTheme::Problem::Syntax) << 3 << 18 << QString();
     QTest::newRow("bad colour") << QByteArray("{\"name\": \"t\", \"colorSets\": {\n\n  \"bad\": \"#12\"}}")
                                 << int(BzTheme::Problem::BadColor) << 3 << 3 << "bad";
+    QTest::newRow("0x colour") << QByteArray("{\"name\": \"t\", \"colorSets\": {\"x\": \"#0x123456\"}}")
+                               << int(BzTheme::Problem::BadColor) << 1 << 29 << "x";
     QTest::newRow("short array") << QByteArray("{\"name\": \"t\", \"colorSets\": {\"arr\": [\"#fff\"]}}")
                                  << int(BzTheme::Problem::Structure) << 1 << 29 << "arr";
     QTest::newRow("unknown state") << QByteArray(
