@@ -1,5 +1,9 @@
 #include "bzthemeaudit.h"
 
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSet>
 
 #include <algorithm>
@@ -7,6 +11,55 @@
 #include <tuple>
 
 namespace {
+
+// The pairing words, surface and ratios: one data file shared with the theme
+// generator, so that both always pair the same names.
+struct PairingRule {
+    QStringList backgroundEndings;
+    QStringList foregroundWords;
+    QStringList nonForegroundWords;
+    QString surface;
+    double ratio = 0.0;
+    double highContrastRatio = 0.0;
+};
+
+QStringList wordsOf(const QJsonValue& value) {
+    QStringList words;
+    for (const QJsonValue& word : value.toArray())
+        words.append(word.toString().toLower());
+    return words;
+}
+
+PairingRule loadRule() {
+    PairingRule rule;
+    QFile file(QStringLiteral(":/brisel/themes/contrast-pairs.json"));
+    const QJsonObject root =
+        file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+    if (root.isEmpty()) {
+        qWarning("BzThemeAudit: the contrast pairing rule is unreadable; no pairs are checked");
+        return rule;
+    }
+    const QJsonObject foreground = root.value(QLatin1String("foreground")).toObject();
+    const QJsonObject ratios = root.value(QLatin1String("requiredRatio")).toObject();
+    rule.backgroundEndings =
+        wordsOf(root.value(QLatin1String("background")).toObject().value(QLatin1String("segmentEndsWith")));
+    rule.foregroundWords = wordsOf(foreground.value(QLatin1String("segmentContains")));
+    rule.nonForegroundWords = wordsOf(foreground.value(QLatin1String("lastSegmentExcludes")));
+    rule.surface = root.value(QLatin1String("surface")).toString();
+    rule.ratio = ratios.value(QLatin1String("default")).toDouble();
+    rule.highContrastRatio = ratios.value(QLatin1String("highContrast")).toDouble();
+    return rule;
+}
+
+const PairingRule& rule() {
+    static const PairingRule loaded = loadRule();
+    return loaded;
+}
+
+bool containsAny(const QString& segment, const QStringList& words) {
+    return std::any_of(words.cbegin(), words.cend(),
+                       [&](const QString& word) { return segment.contains(word, Qt::CaseInsensitive); });
+}
 
 QStringList segmentsOf(const QString& name) {
     return name.split(QLatin1Char('-'));
@@ -30,16 +83,16 @@ double channel(int c) {
     return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
 }
 
-const char kSurface[] = "panel-primary-background";
-
 } // namespace
 
 namespace BzThemeAudit {
 
 bool isBackgroundName(const QString& name) {
     const QStringList segs = segmentsOf(name);
-    return std::any_of(segs.cbegin() + 1, segs.cend(), [](const QString& s) {
-        return s.endsWith(QLatin1String("background"), Qt::CaseInsensitive);
+    const QStringList& endings = rule().backgroundEndings;
+    return std::any_of(segs.cbegin() + 1, segs.cend(), [&](const QString& s) {
+        return std::any_of(endings.cbegin(), endings.cend(),
+                           [&](const QString& end) { return s.endsWith(end, Qt::CaseInsensitive); });
     });
 }
 
@@ -47,17 +100,10 @@ bool isForegroundName(const QString& name) {
     const QStringList segs = segmentsOf(name);
     if (segs.size() < 2 || isBackgroundName(name))
         return false;
-    static const char* const nonForeground[] = {"background", "border",   "outline", "divider",
-                                                "separator",  "gradient", "track",   "shadow"};
-    const QString last = segs.last().toLower();
-    for (const char* word : nonForeground) {
-        if (last.contains(QLatin1String(word)))
-            return false;
-    }
-    return std::any_of(segs.cbegin() + 1, segs.cend(), [](const QString& s) {
-        const QString l = s.toLower();
-        return l.contains(QLatin1String("text")) || l.contains(QLatin1String("icon"));
-    });
+    if (containsAny(segs.last(), rule().nonForegroundWords))
+        return false;
+    return std::any_of(segs.cbegin() + 1, segs.cend(),
+                       [](const QString& s) { return containsAny(s, rule().foregroundWords); });
 }
 
 QList<ContrastPair> contrastPairs(const QStringList& names) {
@@ -112,11 +158,11 @@ QColor composeOver(const QColor& top, const QColor& bottom) {
 }
 
 double requiredRatio(const BzTheme& theme) {
-    return theme.isHighContrast() ? 7.0 : 4.5;
+    return theme.isHighContrast() ? rule().highContrastRatio : rule().ratio;
 }
 
 QList<ContrastPair> measure(const BzTheme& theme, const QList<ContrastPair>& pairs) {
-    const QColor surface = theme.colorSet(QLatin1String(kSurface)).normal();
+    const QColor surface = theme.colorSet(rule().surface).normal();
     const QColor opaqueSurface = surface.isValid() ? composeOver(surface, Qt::white) : QColor(Qt::white);
     QList<ContrastPair> measured;
     for (const ContrastPair& pair : pairs) {

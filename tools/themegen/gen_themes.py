@@ -5,8 +5,9 @@ Every colour set is derived from a few base colours by rules: a name is
 matched against RULES (first match wins) to get a role such as "fill:red" or
 "text:2"; the theme turns the role into a normal colour; the state rules turn
 that into the six state colours. Afterwards every text/icon set is checked
-against its background with the pairing rule of bzthemeaudit.h and its
-lightness is moved (hue kept) until the contrast is met.
+against its background with the pairing rule of contrast-pairs.json (the
+one BzThemeAudit compiles in) and its lightness is moved (hue kept) until
+the contrast is met.
 
     python3 tools/themegen/gen_themes.py              # write the three files
     python3 tools/themegen/gen_themes.py --check      # generate and check only
@@ -17,6 +18,7 @@ Standard library only. See docs/themes.md for the rules in prose.
 """
 
 import argparse
+import json
 import math
 import os
 import re
@@ -27,6 +29,7 @@ ROOT = os.path.normpath(os.path.join(HERE, "..", ".."))
 TOKENS = os.path.join(HERE, "tokens.txt")
 EXTRA = os.path.join(HERE, "extra-names.txt")
 OUT_DIR = os.path.join(ROOT, "src", "resources", "themes")
+PAIRING = os.path.join(OUT_DIR, "contrast-pairs.json")
 
 STATES = ("normal", "hovered", "pressed", "disabled", "focused", "checked")
 N, HOV, PRS, DIS, FOC, CHK = range(6)
@@ -119,9 +122,16 @@ BLACK = (0, 0, 0, 255)
 CLEAR = (0, 0, 0, 0)
 
 # --------------------------------------------------------------------------
-# Pairing rule of bzthemeaudit.h (keep identical in behaviour).
+# Pairing rule: the words come from contrast-pairs.json, which BzThemeAudit
+# reads too; the tie-break order below matches bzthemeaudit.cpp.
 
-NONFG = ('background', 'border', 'outline', 'divider', 'separator', 'gradient', 'track', 'shadow')
+with open(PAIRING, encoding="utf-8") as _fh:
+    _RULE = json.load(_fh)
+BG_ENDS = tuple(w.lower() for w in _RULE["background"]["segmentEndsWith"])
+FG_WORDS = tuple(w.lower() for w in _RULE["foreground"]["segmentContains"])
+NONFG = tuple(w.lower() for w in _RULE["foreground"]["lastSegmentExcludes"])
+SURFACE = _RULE["surface"]
+RATIO = _RULE["requiredRatio"]
 
 
 def segs(n):
@@ -129,7 +139,7 @@ def segs(n):
 
 
 def is_bg(n):
-    return any(s.lower().endswith('background') for s in segs(n)[1:])
+    return any(s.lower().endswith(BG_ENDS) for s in segs(n)[1:])
 
 
 def is_fg(n):
@@ -138,7 +148,7 @@ def is_fg(n):
         return False
     if any(w in r[-1] for w in NONFG):
         return False
-    return any(('text' in s or 'icon' in s) for s in r)
+    return any(w in s for s in r for w in FG_WORDS)
 
 
 def prefix(a, b):
@@ -230,7 +240,7 @@ def hue_of(word):
 
 THEMES = {
     "light": dict(
-        id="light", file="light.json", dark=False, hc=False, req=4.5,
+        id="light", file="light.json", dark=False, hc=False, req=RATIO["default"],
         n=dict(surf0=1.0, surf1=0.978, surf2=0.958, surf3=0.935,
                text1=0.25, text2=0.47, text3=0.53,
                strong=0.66, subtle=0.86, div=0.91,
@@ -244,7 +254,7 @@ THEMES = {
         disabledL=0.90, fadeText=0.40, fadeLine=0.40,
     ),
     "dark": dict(
-        id="dark", file="dark.json", dark=True, hc=False, req=4.5,
+        id="dark", file="dark.json", dark=True, hc=False, req=RATIO["default"],
         n=dict(surf0=0.215, surf1=0.245, surf2=0.275, surf3=0.31,
                text1=0.95, text2=0.80, text3=0.72,
                strong=0.54, subtle=0.38, div=0.32,
@@ -258,7 +268,7 @@ THEMES = {
         disabledL=0.30, fadeText=0.40, fadeLine=0.40,
     ),
     "highContrast": dict(
-        id="highContrast", file="highcontrast.json", dark=True, hc=True, req=7.0,
+        id="highContrast", file="highcontrast.json", dark=True, hc=True, req=RATIO["highContrast"],
         n=dict(surf0=0.0, surf1=0.0, surf2=0.0, surf3=0.0,
                text1=1.0, text2=0.93, text3=0.88,
                strong=1.0, subtle=0.86, div=0.78,
@@ -1075,7 +1085,7 @@ def adjust(fg, bg, target, snap=False):
 def opaque_bg(sets, bgname, state=N):
     bg = sets[bgname][state]
     if bg[3] < 255:
-        bg = compose(bg, sets["panel-primary-background"][N])
+        bg = compose(bg, sets[SURFACE][N])
     return bg
 
 
@@ -1102,9 +1112,9 @@ def generate(T, names, verbose=False):
     pairs = [(f, pair(f, names)) for f in names if is_fg(f)]
     pairs = [(f, b) for f, b in pairs if b]
     target = T["req"] + MARGIN
-    if normal["panel-primary-background"][3] != 255:
-        problems.append("panel-primary-background must be opaque")
-    surface = normal["panel-primary-background"]
+    if normal[SURFACE][3] != 255:
+        problems.append("%s must be opaque" % SURFACE)
+    surface = normal[SURFACE]
     adjusted = []
     for f, b in pairs:
         bg = normal[b] if normal[b][3] == 255 else compose(normal[b], surface)
