@@ -7,37 +7,24 @@
 class tst_AppUtils : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void cleanup();
-    void applicationDirection();
-    void widgetDirection();
+    void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+
+    void direction() {
+        QWidget parent;
+        QWidget* child = new QWidget(&parent);
+        QVERIFY(!AppUtils::isRTLLayoutDirection());
+        QVERIFY(!AppUtils::isRTLLayoutDirection(child));
+        // A widget's own (or inherited) direction wins over the application's, both ways.
+        parent.setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(AppUtils::isRTLLayoutDirection(child));
+        QVERIFY(!AppUtils::isRTLLayoutDirection());
+        QWidget ltr;
+        ltr.setLayoutDirection(Qt::LeftToRight);
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(!AppUtils::isRTLLayoutDirection(&ltr));
+        QVERIFY(AppUtils::isRTLLayoutDirection(nullptr));
+    }
 };
-
-void tst_AppUtils::cleanup() {
-    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
-}
-
-void tst_AppUtils::applicationDirection() {
-    QVERIFY(!AppUtils::isRTLLayoutDirection());
-    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-    QVERIFY(AppUtils::isRTLLayoutDirection());
-    QVERIFY(AppUtils::isRTLLayoutDirection(nullptr));
-}
-
-void tst_AppUtils::widgetDirection() {
-    QWidget parent;
-    QWidget* child = new QWidget(&parent);
-    QVERIFY(!AppUtils::isRTLLayoutDirection(child));
-
-    // A widget's own direction wins over the application's, both ways.
-    parent.setLayoutDirection(Qt::RightToLeft);
-    QVERIFY(AppUtils::isRTLLayoutDirection(child));
-    QVERIFY(!AppUtils::isRTLLayoutDirection());
-
-    QWidget ltr;
-    ltr.setLayoutDirection(Qt::LeftToRight);
-    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-    QVERIFY(!AppUtils::isRTLLayoutDirection(&ltr));
-}
 
 QTEST_MAIN(tst_AppUtils)
 #include "tst_apputils.moc"

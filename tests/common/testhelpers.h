@@ -1,0 +1,115 @@
+#pragma once
+
+// Shared by the base-layer tests: painting a widget on its own, finding what
+// it painted, and the notification contract of properties.
+
+#include "bzcssdata.h"
+#include "bzthemeutils.h"
+
+#include <QImage>
+#include <QMetaProperty>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWidget>
+
+namespace BzTest {
+
+inline BzColorSet set(const char* name) {
+    return BzThemeUtils::getColorSet(QString::fromLatin1(name));
+}
+
+inline BzCSSData record(const char* background, const char* text, int radius = 0) {
+    BzCSSData data;
+    data.backgroundColorSet = QString::fromLatin1(background);
+    data.textColorSet = QString::fromLatin1(text);
+    data.borderRadius = radius;
+    return data;
+}
+
+inline BzCSSData primary(int radius = 0) {
+    return record("button-primary-background", "button-primary-text", radius);
+}
+
+// The widget alone on a transparent image: grab() would show the parent's
+// background wherever the widget paints nothing.
+inline QImage paint(QWidget& widget, qreal dpr = 1.0) {
+    QImage image(QSize(qRound(widget.width() * dpr), qRound(widget.height() * dpr)),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(dpr);
+    image.fill(Qt::transparent);
+    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+// Bounding box, in device pixels, of the pixels exactly `color` (alpha aside).
+inline QRect boxOf(const QImage& image, const QColor& color) {
+    QRect box;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y).rgb() == color.rgb())
+                box |= QRect(x, y, 1, 1);
+    return box;
+}
+
+// `top` blended over the opaque `bottom`.
+inline QColor over(const QColor& top, const QColor& bottom) {
+    const qreal a = top.alphaF();
+    return QColor::fromRgbF(top.redF() * a + bottom.redF() * (1 - a),
+                            top.greenF() * a + bottom.greenF() * (1 - a),
+                            top.blueF() * a + bottom.blueF() * (1 - a));
+}
+
+inline bool near(const QColor& a, const QColor& b, int tolerance = 2) {
+    return qAbs(a.red() - b.red()) <= tolerance && qAbs(a.green() - b.green()) <= tolerance &&
+           qAbs(a.blue() - b.blue()) <= tolerance;
+}
+
+// A value other than `current` for the common property types; invalid if none.
+inline QVariant otherValue(const QMetaProperty& p, const QVariant& current) {
+    if (p.isEnumType() && p.metaType().sizeOf() == int(sizeof(int))) {
+        const QMetaEnum e = p.enumerator();
+        for (int i = 0; i < e.keyCount(); ++i) {
+            int value = e.value(i);
+            if (value != current.toInt())
+                return QVariant(p.metaType(), &value);
+        }
+    }
+    switch (current.metaType().id()) {
+    case QMetaType::Bool:
+        return !current.toBool();
+    case QMetaType::Int:
+        return current.toInt() + 1;
+    case QMetaType::Double:
+        return current.toDouble() + 0.5;
+    case QMetaType::QSize:
+        return current.toSize() + QSize(1, 1);
+    case QMetaType::QPoint:
+        return current.toPoint() + QPoint(1, 1);
+    default:
+        return {};
+    }
+}
+
+// Every writable property `cls` declares itself signals a change exactly once
+// and stays quiet when the same value is written again; bindings in QML and
+// Designer rely on both. `values` supplies values the types cannot (names of
+// icons and colour sets); an invalid value there leaves the property out.
+inline void checkNotifiesOnce(QObject& object, const QMetaObject& cls, const QVariantMap& values = {}) {
+    for (int i = cls.propertyOffset(); i < cls.propertyCount(); ++i) {
+        const QMetaProperty p = cls.property(i);
+        const QString name = QString::fromLatin1(p.name());
+        if (!p.isWritable() || (values.contains(name) && !values.value(name).isValid()))
+            continue;
+        QVERIFY2(p.hasNotifySignal(), p.name());
+        const QVariant value = values.contains(name) ? values.value(name) : otherValue(p, p.read(&object));
+        QVERIFY2(value.isValid(), qPrintable(name + QStringLiteral(": no value to write")));
+        QVERIFY2(p.read(&object) != value, p.name());
+        QSignalSpy spy(&object, p.notifySignal());
+        QVERIFY(p.write(&object, value));
+        QVERIFY2(spy.count() == 1 && p.read(&object) == value, p.name());
+        QVERIFY(p.write(&object, value));
+        QVERIFY2(spy.count() == 1, p.name());
+    }
+}
+
+} // namespace BzTest
