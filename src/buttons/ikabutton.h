@@ -160,6 +160,27 @@ protected:
         return true;
     }
 
+    // The common start of a variant's refresh(): fills `out` from `config`
+    // and applies its colours and record. False without a configuration.
+    template <typename VariantConfig, typename Geometry>
+    bool applyGeometry(const VariantConfig* config, Geometry& out) {
+        if (!config)
+            return false;
+        config->fillGeometry(out);
+        applyColors(out.colors, QString());
+        refresh(out);
+        return true;
+    }
+    // Fixes the width, or frees it again for 0.
+    void setFixedOrFreeWidth(int width) {
+        if (width > 0) {
+            setFixedWidth(width);
+            return;
+        }
+        setMinimumWidth(0);
+        setMaximumWidth(QWIDGETSIZE_MAX);
+    }
+
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;

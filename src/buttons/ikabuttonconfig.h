@@ -57,6 +57,27 @@ Q_SIGNALS:
     void configChanged();
     void iconsChanged();
 
+protected:
+    // Setter plumbing: stores `value` in `field` and, on a change, sends
+    // `changed(value)` (when given) and then configChanged(). Returns whether
+    // the field changed.
+    template <typename T> bool store(T& field, const T& value) {
+        if (field == value)
+            return false;
+        field = value;
+        Q_EMIT configChanged();
+        return true;
+    }
+    template <typename Owner, typename T, typename Arg>
+    bool store(T& field, const T& value, void (Owner::*changed)(Arg)) {
+        if (field == value)
+            return false;
+        field = value;
+        Q_EMIT(static_cast<Owner*>(this)->*changed)(value);
+        Q_EMIT configChanged();
+        return true;
+    }
+
 private:
     QString m_leftIcon;
     QString m_leftIconOn;

@@ -47,6 +47,19 @@ void IKaDualButtonConfig::setChecked(bool checked) {
     updateCells();
 }
 
+bool IKaDualButtonConfig::changeCode(int code) {
+    if (code == m_code)
+        return false;
+    m_code = code;
+    return true;
+}
+
+void IKaDualButtonConfig::updateCells() {
+    pushTo(leftCellConfig(), IKaDualCellConfig::Leading);
+    pushTo(rightCellConfig(), IKaDualCellConfig::Trailing);
+    Q_EMIT configChanged();
+}
+
 void IKaDualButtonConfig::pushTo(IKaDualCellConfig* cell, IKaDualCellConfig::Position position) const {
     if (!cell)
         return;

@@ -26,7 +26,7 @@ public:
     ~IKaDualButtonConfig() override;
 
     // Pushes code, size and state into both cells, then configChanged().
-    virtual void updateCells() = 0;
+    virtual void updateCells();
     // The leading and trailing cell (top and bottom when vertical); null
     // once a cell has been destroyed.
     virtual IKaDualCellConfig* leftCellConfig() const = 0;
@@ -54,7 +54,8 @@ protected:
     // `iconButtonCodes`: the codes are IconButtonStyle values.
     IKaDualButtonConfig(int code, bool iconButtonCodes, QObject* parent);
 
-    void setCode(int code) { m_code = code; }
+    // Stores a style code; false when it is the current one.
+    bool changeCode(int code);
     // Hands the button's state to `cell` placed at `position`; null is ignored.
     void pushTo(IKaDualCellConfig* cell, IKaDualCellConfig::Position position) const;
 

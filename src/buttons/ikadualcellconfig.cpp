@@ -1,7 +1,7 @@
 #include "ikadualcellconfig.h"
 
 #include "kabuttonconfig.h"
-#include "kacolortokenutils.h"
+#include "kasizetable_p.h"
 
 namespace {
 
@@ -42,28 +42,24 @@ IKaDualCellConfig::IKaDualCellConfig(int cellType, QObject* parent)
 
 IKaDualCellConfig::~IKaDualCellConfig() = default;
 
+void IKaDualCellConfig::setHasLeftIcon(bool hasIcon) {
+    store(m_hasLeftIcon, hasIcon);
+}
+
+void IKaDualCellConfig::setHasRightIcon(bool hasIcon) {
+    store(m_hasRightIcon, hasIcon);
+}
+
 void IKaDualCellConfig::setSize(KaDualButtonEnum::Size size) {
-    if (size == m_size)
-        return;
-    m_size = size;
-    Q_EMIT sizeChanged(size);
-    Q_EMIT configChanged();
+    store(m_size, size, &IKaDualCellConfig::sizeChanged);
 }
 
 void IKaDualCellConfig::setMinimumWidth(int width) {
-    width = qMax(0, width);
-    if (width == m_minimumWidth)
-        return;
-    m_minimumWidth = width;
-    Q_EMIT minimumWidthChanged(width);
-    Q_EMIT configChanged();
+    store(m_minimumWidth, qMax(0, width), &IKaDualCellConfig::minimumWidthChanged);
 }
 
 void IKaDualCellConfig::setPlacement(const Placement& placement) {
-    if (placement == m_placement)
-        return;
-    m_placement = placement;
-    Q_EMIT configChanged();
+    store(m_placement, placement);
 }
 
 KaDualButtonCode::ColorScheme IKaDualCellConfig::colorScheme() const {
@@ -100,21 +96,11 @@ void IKaDualCellConfig::fillCellColors(Config& out) const {
 }
 
 void IKaDualCellConfig::fillCellShape(Geometry& out) const {
-    Config base;
-    fillConfig(base);
-    out = Geometry();
-    static_cast<Config&>(out) = base;
+    KaSizeTable::start(out, *this);
     out.vertical = isVertical();
     const bool leading = m_placement.position == Leading;
     out.roundStart = leading;
     out.roundEnd = !leading;
     if (leading && m_placement.split && !out.colors.hasAnyBorder())
-        out.separatorColorSet = KaColorTokenUtils::tokenToString(Karvox::button_group_separator_background);
-}
-
-void IKaDualCellConfig::storeIconFlag(bool& flag, bool value) {
-    if (flag == value)
-        return;
-    flag = value;
-    Q_EMIT configChanged();
+        out.separatorColorSet = KaSizeTable::name(Karvox::button_group_separator_background);
 }

@@ -83,6 +83,9 @@ public:
 
     // The whole cell record: fillConfig() plus the cell's geometry.
     virtual void fillGeometry(Geometry& out) const = 0;
+    // Both cells keep the two icon flags; configChanged() on a change.
+    void setHasLeftIcon(bool hasIcon) override;
+    void setHasRightIcon(bool hasIcon) override;
 
     int cellType() const { return m_cellType; }
     KaDualButtonEnum::Size size() const { return m_size; }
@@ -114,8 +117,6 @@ protected:
     // Starts `out` from fillConfig() and sets the shape: vertical, corners,
     // separator.
     void fillCellShape(Geometry& out) const;
-    // The icon flags of both cells; configChanged() on a change.
-    void storeIconFlag(bool& flag, bool value);
 
     bool m_hasLeftIcon = false;
     bool m_hasRightIcon = false;

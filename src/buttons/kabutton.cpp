@@ -40,12 +40,8 @@ KaButtonEnum::Style KaButton::style() const {
 }
 
 void KaButton::setSize(KaButtonEnum::Size size) {
-    if (!m_buttonConfig || size == m_buttonConfig->size())
+    if (!writeConfig(m_buttonConfig.data(), &KaButtonConfig::size, &KaButtonConfig::setSize, size))
         return;
-    {
-        const ConfigWrite write(this);
-        m_buttonConfig->setSize(size);
-    }
     Q_EMIT sizeChanged(size);
     Q_EMIT refreshConfig();
     updateGeometry();

@@ -1,13 +1,11 @@
 #include "kabuttonconfig.h"
 
-#include "kacolortokenutils.h"
 #include "kaconfig.h"
+#include "kasizetable_p.h"
+
+using KaSizeTable::name;
 
 namespace {
-
-QString name(Karvox::Token token) {
-    return KaColorTokenUtils::tokenToString(token);
-}
 
 void setColors(KaButtonConfigRecord::Colors& out, Karvox::Token background, Karvox::Token text) {
     out.backgroundColorSet = name(background);
@@ -134,10 +132,7 @@ void KaButtonConfig::fillConfig(Config& out) const {
 }
 
 void KaButtonConfig::setCustomValue(int value) {
-    if (value == m_customValue)
-        return;
-    m_customValue = value;
-    Q_EMIT configChanged();
+    store(m_customValue, value);
 }
 
 void KaButtonConfig::setStyle(KaButtonEnum::Style style) {
@@ -147,19 +142,11 @@ void KaButtonConfig::setStyle(KaButtonEnum::Style style) {
 }
 
 void KaButtonConfig::setSize(KaButtonEnum::Size size) {
-    if (size == m_size)
-        return;
-    m_size = size;
-    Q_EMIT sizeChanged(size);
-    Q_EMIT configChanged();
+    store(m_size, size, &KaButtonConfig::sizeChanged);
 }
 
 void KaButtonConfig::setState(KaButtonEnum::State state) {
-    if (state == m_state)
-        return;
-    m_state = state;
-    Q_EMIT stateChanged(state);
-    Q_EMIT configChanged();
+    store(m_state, state, &KaButtonConfig::stateChanged);
 }
 
 void KaButtonConfig::setChecked(bool checked) {

@@ -46,7 +46,6 @@ struct KARVEX_EXPORT KaButtonConfigRecord {
     // Arrangement of icon and text: 1 is icon beside text; variants may use
     // other values. The button recomputes its geometry when it changes.
     int layoutMode = 1;
-    int layoutFlags = 0;
     Colors colors;
     // BzFont::Token; 0 (body text) unless a size table says otherwise.
     int fontToken = 0;
@@ -57,6 +56,4 @@ struct KARVEX_EXPORT KaButtonConfigRecord {
     // Height of the content box inside the face (the face less 4 px above
     // and below); the button repaints when it changes.
     int innerMetric = 0;
-    // Not read by the standard buttons; free for a variant's own use.
-    int spareMetric = 0;
 };

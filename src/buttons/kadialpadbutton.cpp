@@ -138,20 +138,13 @@ void KaDialpadButton::keyPressEvent(QKeyEvent* event) {
 }
 
 void KaDialpadButton::refresh() {
-    const KaDialpadButtonConfig* config = dialpadConfig();
-    if (!config)
-        return;
     KaDialpadButtonConfig::Geometry g;
-    config->fillGeometry(g);
-    applyColors(g.colors, QString());
-    IKaButton::refresh(g);
-    if (g.fixedHeight > 0) {
-        setFixedWidth(g.fixedHeight);
+    if (!applyGeometry(dialpadConfig(), g))
+        return;
+    // A circle: the width follows the diameter.
+    setFixedOrFreeWidth(g.fixedHeight);
+    if (g.fixedHeight > 0)
         setFocusRadius(g.fixedHeight / 2.0);
-    } else {
-        setMinimumWidth(0);
-        setMaximumWidth(QWIDGETSIZE_MAX);
-    }
     const QFont lettersFont = BzFont(g.lettersFontToken);
     if (g.lettersColorSet != m_lettersSetName || lettersFont != m_lettersFont || g.gap != m_gap) {
         m_lettersSetName = g.lettersColorSet;

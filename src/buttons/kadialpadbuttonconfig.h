@@ -29,8 +29,7 @@ class KARVEX_EXPORT KaDialpadButtonConfig : public IKaButtonConfig {
     Q_PROPERTY(bool special READ isSpecial WRITE setSpecial NOTIFY specialChanged)
 public:
     struct KARVEX_EXPORT Geometry : KaButtonConfigRecord {
-        // BzFont tokens of the two lines.
-        int digitFontToken = 0;
+        // BzFont token of the letters; the digit uses fontToken.
         int lettersFontToken = 0;
         // The letters' colour; the digit uses colors.textColorSet.
         QString lettersColorSet;

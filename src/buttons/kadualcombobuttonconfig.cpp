@@ -9,12 +9,6 @@ KaDualComboButtonConfig::KaDualComboButtonConfig(QObject* parent)
 
 KaDualComboButtonConfig::~KaDualComboButtonConfig() = default;
 
-void KaDualComboButtonConfig::updateCells() {
-    pushTo(leftCellConfig(), IKaDualCellConfig::Leading);
-    pushTo(rightCellConfig(), IKaDualCellConfig::Trailing);
-    Q_EMIT configChanged();
-}
-
 IKaDualCellConfig* KaDualComboButtonConfig::leftCellConfig() const {
     if (isIconFirst())
         return m_iconCell;
@@ -28,10 +22,8 @@ IKaDualCellConfig* KaDualComboButtonConfig::rightCellConfig() const {
 }
 
 void KaDualComboButtonConfig::setStyle(KaDualButtonEnum::Style style) {
-    if (style == m_style)
+    if (!changeCode(style))
         return;
-    m_style = style;
-    setCode(style);
     Q_EMIT styleChanged(style);
     updateCells();
 }

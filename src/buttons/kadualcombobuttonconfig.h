@@ -20,21 +20,19 @@ public:
     explicit KaDualComboButtonConfig(QObject* parent = nullptr);
     ~KaDualComboButtonConfig() override;
 
-    void updateCells() override;
     IKaDualCellConfig* leftCellConfig() const override;
     IKaDualCellConfig* rightCellConfig() const override;
 
     KaDualComboCellConfig* labelCellConfig() const { return m_labelCell; }
     KaDualIconCellConfig* iconCellConfig() const { return m_iconCell; }
 
-    KaDualButtonEnum::Style style() const { return m_style; }
+    KaDualButtonEnum::Style style() const { return KaDualButtonEnum::Style(code()); }
     void setStyle(KaDualButtonEnum::Style style);
 
 Q_SIGNALS:
     void styleChanged(KaDualButtonEnum::Style style);
 
 private:
-    KaDualButtonEnum::Style m_style = KaDualButtonEnum::LabelIconSecondary;
     QPointer<KaDualComboCellConfig> m_labelCell;
     QPointer<KaDualIconCellConfig> m_iconCell;
 };

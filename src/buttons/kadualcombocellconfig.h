@@ -24,7 +24,5 @@ public:
 
     // Colours, size policy, height, font token and inner metric.
     void fillConfig(Config& out) const override;
-    void setHasLeftIcon(bool hasIcon) override;
-    void setHasRightIcon(bool hasIcon) override;
     void fillGeometry(Geometry& out) const override;
 };

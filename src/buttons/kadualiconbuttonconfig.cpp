@@ -9,12 +9,6 @@ KaDualIconButtonConfig::KaDualIconButtonConfig(QObject* parent)
 
 KaDualIconButtonConfig::~KaDualIconButtonConfig() = default;
 
-void KaDualIconButtonConfig::updateCells() {
-    pushTo(m_firstCell, IKaDualCellConfig::Leading);
-    pushTo(m_secondCell, IKaDualCellConfig::Trailing);
-    Q_EMIT configChanged();
-}
-
 IKaDualCellConfig* KaDualIconButtonConfig::leftCellConfig() const {
     return m_firstCell;
 }
@@ -24,10 +18,8 @@ IKaDualCellConfig* KaDualIconButtonConfig::rightCellConfig() const {
 }
 
 void KaDualIconButtonConfig::setStyle(KaDualButtonEnum::IconButtonStyle style) {
-    if (style == m_style)
+    if (!changeCode(style))
         return;
-    m_style = style;
-    setCode(style);
     Q_EMIT styleChanged(style);
     updateCells();
 }

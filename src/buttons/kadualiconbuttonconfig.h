@@ -17,18 +17,16 @@ public:
     explicit KaDualIconButtonConfig(QObject* parent = nullptr);
     ~KaDualIconButtonConfig() override;
 
-    void updateCells() override;
     IKaDualCellConfig* leftCellConfig() const override;
     IKaDualCellConfig* rightCellConfig() const override;
 
-    KaDualButtonEnum::IconButtonStyle style() const { return m_style; }
+    KaDualButtonEnum::IconButtonStyle style() const { return KaDualButtonEnum::IconButtonStyle(code()); }
     void setStyle(KaDualButtonEnum::IconButtonStyle style);
 
 Q_SIGNALS:
     void styleChanged(KaDualButtonEnum::IconButtonStyle style);
 
 private:
-    KaDualButtonEnum::IconButtonStyle m_style = KaDualButtonEnum::SecondaryHorizontal;
     QPointer<KaDualIconCellConfig> m_firstCell;
     QPointer<KaDualIconCellConfig> m_secondCell;
 };

@@ -1,5 +1,7 @@
 #include "kadualiconcellconfig.h"
 
+#include "kasizetable_p.h"
+
 namespace {
 
 struct IconRow {
@@ -11,21 +13,11 @@ struct IconRow {
     int innerMetric;
 };
 
-bool iconRow(int size, IconRow& row) {
-    switch (size) {
-    case KaDualButtonEnum::ExtraLarge:
-        row = {40, 20, 28, 16, 6, 32};
-        return true;
-    case KaDualButtonEnum::Large:
-        row = {32, 16, 24, 12, 6, 24};
-        return true;
-    case KaDualButtonEnum::Normal:
-        row = {28, 16, 20, 12, 4, 20};
-        return true;
-    default:
-        return false;
-    }
-}
+const KaSizeTable::Entry<IconRow> kIcons[] = {
+    {KaDualButtonEnum::ExtraLarge, {40, 20, 28, 16, 6, 32}},
+    {KaDualButtonEnum::Large, {32, 16, 24, 12, 6, 24}},
+    {KaDualButtonEnum::Normal, {28, 16, 20, 12, 4, 20}},
+};
 
 } // namespace
 
@@ -41,26 +33,19 @@ QString KaDualIconCellConfig::arrowIconPath() {
 void KaDualIconCellConfig::fillConfig(Config& out) const {
     fillCellColors(out);
     out.sizePolicy = QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed, QSizePolicy::DefaultType);
-    IconRow row;
-    if (!iconRow(size(), row))
+    const IconRow* row = KaSizeTable::find(kIcons, size());
+    if (!row)
         return;
-    out.fixedHeight = isArrowCell() && isVertical() ? row.arrowLength : row.side;
-    out.innerMetric = row.innerMetric;
-}
-
-void KaDualIconCellConfig::setHasLeftIcon(bool hasIcon) {
-    storeIconFlag(m_hasLeftIcon, hasIcon);
-}
-
-void KaDualIconCellConfig::setHasRightIcon(bool hasIcon) {
-    storeIconFlag(m_hasRightIcon, hasIcon);
+    out.fixedHeight = isArrowCell() && isVertical() ? row->arrowLength : row->side;
+    out.innerMetric = row->innerMetric;
 }
 
 void KaDualIconCellConfig::fillGeometry(Geometry& out) const {
     fillCellShape(out);
-    IconRow row;
-    if (!iconRow(size(), row))
+    const IconRow* found = KaSizeTable::find(kIcons, size());
+    if (!found)
         return;
+    const IconRow& row = *found;
 
     if (isArrowCell()) {
         out.arrowIcon = arrowIconPath();

@@ -26,8 +26,6 @@ public:
 
     // Colours, fixed size policy, height and inner metric.
     void fillConfig(Config& out) const override;
-    void setHasLeftIcon(bool hasIcon) override;
-    void setHasRightIcon(bool hasIcon) override;
     void fillGeometry(Geometry& out) const override;
 
     static QString arrowIconPath();

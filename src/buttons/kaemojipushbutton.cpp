@@ -123,19 +123,10 @@ void KaEmojiPushButton::updateAccessibleName() {
 }
 
 void KaEmojiPushButton::refresh() {
-    const KaEmojiPushButtonConfig* config = emojiConfig();
-    if (!config)
-        return;
     KaEmojiPushButtonConfig::Geometry g;
-    config->fillGeometry(g);
-    applyColors(g.colors, QString());
-    IKaButton::refresh(g);
-    if (g.fixedWidth > 0) {
-        setFixedWidth(g.fixedWidth);
-    } else {
-        setMinimumWidth(0);
-        setMaximumWidth(QWIDGETSIZE_MAX);
-    }
+    if (!applyGeometry(emojiConfig(), g))
+        return;
+    setFixedOrFreeWidth(g.fixedWidth);
     setTextLeftPadding(g.paddingLeft);
     setTextRightPadding(g.paddingRight);
     if (g.emojiSize != m_emojiSize || g.spacing != m_spacing) {

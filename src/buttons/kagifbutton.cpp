@@ -147,19 +147,10 @@ void KaGifButton::updateScaledSize() {
 }
 
 void KaGifButton::refresh() {
-    const KaGifButtonConfig* config = gifConfig();
-    if (!config)
-        return;
     KaGifButtonConfig::Geometry g;
-    config->fillGeometry(g);
-    applyColors(g.colors, QString());
-    IKaButton::refresh(g);
-    if (g.fixedWidth > 0) {
-        setFixedWidth(g.fixedWidth);
-    } else {
-        setMinimumWidth(0);
-        setMaximumWidth(QWIDGETSIZE_MAX);
-    }
+    if (!applyGeometry(gifConfig(), g))
+        return;
+    setFixedOrFreeWidth(g.fixedWidth);
     setTextLeftPadding(g.paddingLeft);
     setTextRightPadding(g.paddingRight);
     if (g.fixedHeight > 0)

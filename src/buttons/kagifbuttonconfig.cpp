@@ -1,22 +1,14 @@
 #include "kagifbuttonconfig.h"
 
+#include "kasizetable_p.h"
+
 namespace {
 
-int tableImageSide(int size) {
-    switch (size) {
-    case KaButtonEnum::ExtraLarge:
-        return 24;
-    case KaButtonEnum::Large:
-        return 20;
-    case KaButtonEnum::Normal:
-    case KaButtonEnum::Small:
-        return 16;
-    case KaButtonEnum::ExtraSmall:
-        return 14;
-    default:
-        return 0;
-    }
-}
+// Image side by size.
+const KaSizeTable::Entry<int> kImages[] = {
+    {KaButtonEnum::ExtraLarge, 24}, {KaButtonEnum::Large, 20},      {KaButtonEnum::Normal, 16},
+    {KaButtonEnum::Small, 16},      {KaButtonEnum::ExtraSmall, 14},
+};
 
 } // namespace
 
@@ -28,10 +20,10 @@ KaGifButtonConfig::~KaGifButtonConfig() = default;
 void KaGifButtonConfig::fillGeometry(Geometry& out) const {
     out = Geometry();
     KaPillButtonConfig::fillGeometry(out);
-    const int side = tableImageSide(size());
-    if (side == 0)
+    const int* side = KaSizeTable::find(kImages, size());
+    if (!side)
         return;
-    const QSize image = m_imageSize.isValid() ? m_imageSize : QSize(side, side);
+    const QSize image = m_imageSize.isValid() ? m_imageSize : QSize(*side, *side);
     if (hasLeftIcon())
         out.svgIconSize = image;
     if (m_imageOnly && out.fixedHeight > 0) {
@@ -44,17 +36,9 @@ void KaGifButtonConfig::fillGeometry(Geometry& out) const {
 }
 
 void KaGifButtonConfig::setImageSize(const QSize& size) {
-    if (size == m_imageSize)
-        return;
-    m_imageSize = size;
-    Q_EMIT imageSizeChanged(size);
-    Q_EMIT configChanged();
+    store(m_imageSize, size, &KaGifButtonConfig::imageSizeChanged);
 }
 
 void KaGifButtonConfig::setImageOnly(bool imageOnly) {
-    if (imageOnly == m_imageOnly)
-        return;
-    m_imageOnly = imageOnly;
-    Q_EMIT imageOnlyChanged(imageOnly);
-    Q_EMIT configChanged();
+    store(m_imageOnly, imageOnly, &KaGifButtonConfig::imageOnlyChanged);
 }

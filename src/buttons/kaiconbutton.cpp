@@ -24,12 +24,8 @@ KaIconButton::KaIconButton(QWidget* parent, KaIconButtonEnum::Type type, KaButto
 KaIconButton::~KaIconButton() = default;
 
 void KaIconButton::setType(KaIconButtonEnum::Type type) {
-    if (!m_iconConfig || type == m_iconConfig->type())
+    if (!writeConfig(m_iconConfig.data(), &KaIconButtonConfig::type, &KaIconButtonConfig::setType, type))
         return;
-    {
-        const ConfigWrite write(this);
-        m_iconConfig->setType(type);
-    }
     updateDefaultAccessibleName();
     Q_EMIT typeChanged(type);
     Q_EMIT refreshConfig();
@@ -40,12 +36,8 @@ KaIconButtonEnum::Type KaIconButton::type() const {
 }
 
 void KaIconButton::setStyle(KaIconButtonEnum::Style style) {
-    if (!m_iconConfig || style == m_iconConfig->style())
+    if (!writeConfig(m_iconConfig.data(), &KaIconButtonConfig::style, &KaIconButtonConfig::setStyle, style))
         return;
-    {
-        const ConfigWrite write(this);
-        m_iconConfig->setStyle(style);
-    }
     Q_EMIT styleChanged(style);
     Q_EMIT refreshConfig();
 }
@@ -55,12 +47,8 @@ KaIconButtonEnum::Style KaIconButton::style() const {
 }
 
 void KaIconButton::setSize(KaButtonEnum::Size size) {
-    if (!m_iconConfig || size == m_iconConfig->size())
+    if (!writeConfig(m_iconConfig.data(), &KaIconButtonConfig::size, &KaIconButtonConfig::setSize, size))
         return;
-    {
-        const ConfigWrite write(this);
-        m_iconConfig->setSize(size);
-    }
     Q_EMIT sizeChanged(size);
     Q_EMIT refreshConfig();
     updateGeometry();
@@ -71,12 +59,9 @@ KaButtonEnum::Size KaIconButton::size() const {
 }
 
 void KaIconButton::refresh() {
-    if (!m_iconConfig)
-        return;
     KaIconButtonConfig::Geometry g;
-    m_iconConfig->fillGeometry(g);
-    applyColors(g.colors, QString());
-    IKaButton::refresh(g);
+    if (!applyGeometry(m_iconConfig.data(), g))
+        return;
     setSvgIconSize(g.svgIconSize);
     setSvgIconVisible(true);
     setAnchorIconVisible(false);

@@ -1,49 +1,21 @@
 #include "kaiconbuttonconfig.h"
 
-#include "kacolortokenutils.h"
 #include "kaconfig.h"
+#include "kasizetable_p.h"
+
+using KaSizeTable::name;
 
 namespace {
 
-QString name(Karvox::Token token) {
-    return KaColorTokenUtils::tokenToString(token);
-}
-
-// Side and icon of the square, or false for a size outside the table.
-bool squareRow(int size, int& side, int& icon) {
-    switch (size) {
-    case KaButtonEnum::ExtraLarge:
-        side = 40;
-        icon = 24;
-        return true;
-    case KaButtonEnum::Large:
-        side = 32;
-        icon = 20;
-        return true;
-    case KaButtonEnum::Normal:
-        side = 28;
-        icon = 16;
-        return true;
-    case KaButtonEnum::Small:
-        side = 24;
-        icon = 16;
-        return true;
-    case KaButtonEnum::ExtraSmall:
-        side = 20;
-        icon = 12;
-        return true;
-    case KaButtonEnum::ExtraExtraSmall:
-        side = 16;
-        icon = 12;
-        return true;
-    case KaButtonEnum::ExtraExtraExtraSmall:
-        side = 12;
-        icon = 8;
-        return true;
-    default:
-        return false;
-    }
-}
+const KaSizeTable::Entry<KaSizeTable::SquareRow> kSquares[] = {
+    {KaButtonEnum::ExtraLarge, {40, 24}},
+    {KaButtonEnum::Large, {32, 20}},
+    {KaButtonEnum::Normal, {28, 16}},
+    {KaButtonEnum::Small, {24, 16}},
+    {KaButtonEnum::ExtraSmall, {20, 12}},
+    {KaButtonEnum::ExtraExtraSmall, {16, 12}},
+    {KaButtonEnum::ExtraExtraExtraSmall, {12, 8}},
+};
 
 } // namespace
 
@@ -89,21 +61,14 @@ void KaIconButtonConfig::fillConfig(Config& out) const {
     if (KaConfig::highContrast)
         out.colors.setBorderColorSet(name(button_primary_border));
 
-    int side = 0;
-    int iconSide = 0;
-    if (squareRow(m_size, side, iconSide))
-        out.fixedHeight = side;
+    if (const KaSizeTable::SquareRow* row = KaSizeTable::find(kSquares, m_size))
+        out.fixedHeight = row->side;
 }
 
 void KaIconButtonConfig::fillGeometry(Geometry& out) const {
-    Config base;
-    fillConfig(base);
-    out = Geometry();
-    static_cast<Config&>(out) = base;
-    int side = 0;
-    int icon = 0;
-    if (squareRow(m_size, side, icon))
-        out.svgIconSize = QSize(icon, icon);
+    KaSizeTable::start(out, *this);
+    if (const KaSizeTable::SquareRow* row = KaSizeTable::find(kSquares, m_size))
+        out.svgIconSize = QSize(row->icon, row->icon);
 }
 
 void KaIconButtonConfig::setHasLeftIcon(bool) {}
@@ -111,25 +76,13 @@ void KaIconButtonConfig::setHasLeftIcon(bool) {}
 void KaIconButtonConfig::setHasRightIcon(bool) {}
 
 void KaIconButtonConfig::setType(KaIconButtonEnum::Type type) {
-    if (type == m_type)
-        return;
-    m_type = type;
-    Q_EMIT typeChanged(type);
-    Q_EMIT configChanged();
+    store(m_type, type, &KaIconButtonConfig::typeChanged);
 }
 
 void KaIconButtonConfig::setStyle(KaIconButtonEnum::Style style) {
-    if (style == m_style)
-        return;
-    m_style = style;
-    Q_EMIT styleChanged(style);
-    Q_EMIT configChanged();
+    store(m_style, style, &KaIconButtonConfig::styleChanged);
 }
 
 void KaIconButtonConfig::setSize(KaButtonEnum::Size size) {
-    if (size == m_size)
-        return;
-    m_size = size;
-    Q_EMIT sizeChanged(size);
-    Q_EMIT configChanged();
+    store(m_size, size, &KaIconButtonConfig::sizeChanged);
 }

@@ -23,12 +23,9 @@ KaOverlayButton::KaOverlayButton(QWidget* parent, KaOverlayButtonEnum::Type type
 KaOverlayButton::~KaOverlayButton() = default;
 
 void KaOverlayButton::setSize(KaOverlayButtonEnum::Size size) {
-    if (!m_overlayConfig || size == m_overlayConfig->size())
+    if (!writeConfig(m_overlayConfig.data(), &KaOverlayButtonConfig::size, &KaOverlayButtonConfig::setSize,
+                     size))
         return;
-    {
-        const ConfigWrite write(this);
-        m_overlayConfig->setSize(size);
-    }
     Q_EMIT sizeChanged(size);
     Q_EMIT refreshConfig();
     updateGeometry();
@@ -39,12 +36,9 @@ KaOverlayButtonEnum::Size KaOverlayButton::size() const {
 }
 
 void KaOverlayButton::setType(KaOverlayButtonEnum::Type type) {
-    if (!m_overlayConfig || type == m_overlayConfig->type())
+    if (!writeConfig(m_overlayConfig.data(), &KaOverlayButtonConfig::type, &KaOverlayButtonConfig::setType,
+                     type))
         return;
-    {
-        const ConfigWrite write(this);
-        m_overlayConfig->setType(type);
-    }
     updateDefaultAccessibleName();
     Q_EMIT typeChanged(type);
     Q_EMIT refreshConfig();
@@ -55,12 +49,9 @@ KaOverlayButtonEnum::Type KaOverlayButton::type() const {
 }
 
 void KaOverlayButton::refresh() {
-    if (!m_overlayConfig)
-        return;
     KaOverlayButtonConfig::Geometry g;
-    m_overlayConfig->fillGeometry(g);
-    applyColors(g.colors, QString());
-    IKaButton::refresh(g);
+    if (!applyGeometry(m_overlayConfig.data(), g))
+        return;
     setSvgIcon(g.svgIcon);
     setSvgIconSize(g.svgIconSize);
     setSvgIconAlignment(g.svgIconAlignment);

@@ -1,38 +1,16 @@
 #include "kaoverlaybuttonconfig.h"
 
-#include "kacolortokenutils.h"
+#include "kasizetable_p.h"
 
 #include <QGuiApplication>
 
 namespace {
 
-bool overlayRow(int size, int& height, int& icon) {
-    switch (size) {
-    case KaOverlayButtonEnum::Micro:
-        height = 20;
-        icon = 12;
-        return true;
-    case KaOverlayButtonEnum::ExtraSmall:
-        height = 24;
-        icon = 13;
-        return true;
-    case KaOverlayButtonEnum::Small:
-    case KaOverlayButtonEnum::Normal:
-        height = 28;
-        icon = 16;
-        return true;
-    case KaOverlayButtonEnum::Large:
-        height = 32;
-        icon = 16;
-        return true;
-    case KaOverlayButtonEnum::ExtraLarge:
-        height = 40;
-        icon = 20;
-        return true;
-    default:
-        return false;
-    }
-}
+const KaSizeTable::Entry<KaSizeTable::SquareRow> kOverlays[] = {
+    {KaOverlayButtonEnum::Micro, {20, 12}}, {KaOverlayButtonEnum::ExtraSmall, {24, 13}},
+    {KaOverlayButtonEnum::Small, {28, 16}}, {KaOverlayButtonEnum::Normal, {28, 16}},
+    {KaOverlayButtonEnum::Large, {32, 16}}, {KaOverlayButtonEnum::ExtraLarge, {40, 20}},
+};
 
 bool isNamedType(int type) {
     return type == KaOverlayButtonEnum::ExpandAreaOverlay || type == KaOverlayButtonEnum::CollapseAreaOverlay;
@@ -48,14 +26,12 @@ KaOverlayButtonConfig::~KaOverlayButtonConfig() = default;
 void KaOverlayButtonConfig::fillConfig(Config& out) const {
     out = Config();
     if (isNamedType(m_type)) {
-        out.colors.backgroundColorSet = KaColorTokenUtils::tokenToString(Karvox::button_overlay_background);
-        out.colors.setBorderColorSet(KaColorTokenUtils::tokenToString(Karvox::button_overlay_border));
-        out.colors.textColorSet = KaColorTokenUtils::tokenToString(Karvox::button_overlay_text);
+        out.colors.backgroundColorSet = KaSizeTable::name(Karvox::button_overlay_background);
+        out.colors.setBorderColorSet(KaSizeTable::name(Karvox::button_overlay_border));
+        out.colors.textColorSet = KaSizeTable::name(Karvox::button_overlay_text);
     }
-    int height = 0;
-    int icon = 0;
-    if (overlayRow(m_size, height, icon))
-        out.fixedHeight = height;
+    if (const KaSizeTable::SquareRow* row = KaSizeTable::find(kOverlays, m_size))
+        out.fixedHeight = row->side;
 }
 
 void KaOverlayButtonConfig::fillGeometry(Geometry& out) const {
@@ -63,15 +39,10 @@ void KaOverlayButtonConfig::fillGeometry(Geometry& out) const {
 }
 
 void KaOverlayButtonConfig::fillGeometry(Geometry& out, Qt::LayoutDirection direction) const {
-    Config base;
-    fillConfig(base);
-    out = Geometry();
-    static_cast<Config&>(out) = base;
+    KaSizeTable::start(out, *this);
     out.svgIcon = arrowIcon(m_type, direction);
-    int height = 0;
-    int icon = 0;
-    if (overlayRow(m_size, height, icon))
-        out.svgIconSize = QSize(icon, icon);
+    if (const KaSizeTable::SquareRow* row = KaSizeTable::find(kOverlays, m_size))
+        out.svgIconSize = QSize(row->icon, row->icon);
 }
 
 QString KaOverlayButtonConfig::arrowIcon(KaOverlayButtonEnum::Type type, Qt::LayoutDirection direction) {
@@ -89,17 +60,9 @@ void KaOverlayButtonConfig::setHasLeftIcon(bool) {}
 void KaOverlayButtonConfig::setHasRightIcon(bool) {}
 
 void KaOverlayButtonConfig::setSize(KaOverlayButtonEnum::Size size) {
-    if (size == m_size)
-        return;
-    m_size = size;
-    Q_EMIT sizeChanged(size);
-    Q_EMIT configChanged();
+    store(m_size, size, &KaOverlayButtonConfig::sizeChanged);
 }
 
 void KaOverlayButtonConfig::setType(KaOverlayButtonEnum::Type type) {
-    if (type == m_type)
-        return;
-    m_type = type;
-    Q_EMIT typeChanged(type);
-    Q_EMIT configChanged();
+    store(m_type, type, &KaOverlayButtonConfig::typeChanged);
 }

@@ -17,12 +17,9 @@ KaRoundButton::~KaRoundButton() = default;
 
 void KaRoundButton::refresh() {
     const auto* config = qobject_cast<const KaRoundButtonConfig*>(buttonConfig());
-    if (!config)
-        return;
     KaRoundButtonConfig::Geometry g;
-    config->fillGeometry(g);
-    applyColors(g.colors, QString());
-    IKaButton::refresh(g);
+    if (!applyGeometry(config, g))
+        return;
     setSvgIconSize(g.svgIconSize);
     setSvgIconVisible(config->hasLeftIcon());
     // The configuration refuses a right icon, but the path still reaches

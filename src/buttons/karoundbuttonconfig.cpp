@@ -1,6 +1,22 @@
 #include "karoundbuttonconfig.h"
 
+#include "kasizetable_p.h"
+
 #include <QtDebug>
+
+namespace {
+
+const KaSizeTable::Entry<KaSizeTable::SquareRow> kCircles[] = {
+    {KaButtonEnum::ExtraLarge, {64, 32}},
+    {KaButtonEnum::Large, {52, 28}},
+    {KaButtonEnum::Normal, {40, 20}},
+    {KaButtonEnum::Small, {32, 16}},
+    {KaButtonEnum::ExtraSmall, {28, 16}},
+    {KaButtonEnum::ExtraExtraSmall, {24, 13}},
+    {KaButtonEnum::ExtraExtraExtraSmall, {16, 8}},
+};
+
+} // namespace
 
 KaRoundButtonConfig::KaRoundButtonConfig(QObject* parent)
     : KaButtonConfig(parent) {
@@ -10,10 +26,7 @@ KaRoundButtonConfig::KaRoundButtonConfig(QObject* parent)
 KaRoundButtonConfig::~KaRoundButtonConfig() = default;
 
 void KaRoundButtonConfig::setHasLeftIcon(bool hasIcon) {
-    if (hasIcon == m_hasLeftIcon)
-        return;
-    m_hasLeftIcon = hasIcon;
-    Q_EMIT configChanged();
+    store(m_hasLeftIcon, hasIcon);
 }
 
 void KaRoundButtonConfig::setHasRightIcon(bool) {
@@ -21,46 +34,10 @@ void KaRoundButtonConfig::setHasRightIcon(bool) {
 }
 
 void KaRoundButtonConfig::fillGeometry(Geometry& out) const {
-    Config colorPart;
-    fillConfig(colorPart);
-    out = Geometry();
-    static_cast<Config&>(out) = colorPart;
+    KaSizeTable::start(out, *this);
     out.sizePolicy = m_sizePolicy;
-
-    int diameter = 0;
-    int icon = 0;
-    switch (m_size) {
-    case KaButtonEnum::ExtraLarge:
-        diameter = 64;
-        icon = 32;
-        break;
-    case KaButtonEnum::Large:
-        diameter = 52;
-        icon = 28;
-        break;
-    case KaButtonEnum::Normal:
-        diameter = 40;
-        icon = 20;
-        break;
-    case KaButtonEnum::Small:
-        diameter = 32;
-        icon = 16;
-        break;
-    case KaButtonEnum::ExtraSmall:
-        diameter = 28;
-        icon = 16;
-        break;
-    case KaButtonEnum::ExtraExtraSmall:
-        diameter = 24;
-        icon = 13;
-        break;
-    case KaButtonEnum::ExtraExtraExtraSmall:
-        diameter = 16;
-        icon = 8;
-        break;
-    default:
-        return;
+    if (const KaSizeTable::SquareRow* row = KaSizeTable::find(kCircles, m_size)) {
+        out.fixedHeight = row->side;
+        out.svgIconSize = QSize(row->icon, row->icon);
     }
-    out.fixedHeight = diameter;
-    out.svgIconSize = QSize(icon, icon);
 }

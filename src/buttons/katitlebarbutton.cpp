@@ -112,19 +112,10 @@ void KaTitleBarButton::changeEvent(QEvent* event) {
 }
 
 void KaTitleBarButton::refresh() {
-    const KaTitleBarButtonConfig* config = titleBarConfig();
-    if (!config)
-        return;
     KaTitleBarButtonConfig::Geometry g;
-    config->fillGeometry(g);
-    applyColors(g.colors, QString());
-    IKaButton::refresh(g);
-    if (g.fixedWidth > 0) {
-        setFixedWidth(g.fixedWidth);
-    } else {
-        setMinimumWidth(0);
-        setMaximumWidth(QWIDGETSIZE_MAX);
-    }
+    if (!applyGeometry(titleBarConfig(), g))
+        return;
+    setFixedOrFreeWidth(g.fixedWidth);
     setFocusRadius(0);
     if (g.glyph != m_glyph || g.glyphSize != m_glyphSize) {
         m_glyph = g.glyph;

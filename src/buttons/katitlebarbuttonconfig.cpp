@@ -1,30 +1,22 @@
 #include "katitlebarbuttonconfig.h"
 
-#include "kacolortokenutils.h"
+#include "kasizetable_p.h"
+
+using KaSizeTable::name;
 
 namespace {
 
-bool barRow(int size, int& width, int& height, int& glyph) {
-    switch (size) {
-    case KaButtonEnum::Large:
-        width = 46;
-        height = 40;
-        glyph = 12;
-        return true;
-    case KaButtonEnum::Normal:
-        width = 40;
-        height = 32;
-        glyph = 10;
-        return true;
-    case KaButtonEnum::Small:
-        width = 32;
-        height = 28;
-        glyph = 10;
-        return true;
-    default:
-        return false;
-    }
-}
+struct BarRow {
+    int width;
+    int height;
+    int glyph;
+};
+
+const KaSizeTable::Entry<BarRow> kBars[] = {
+    {KaButtonEnum::Large, {46, 40, 12}},
+    {KaButtonEnum::Normal, {40, 32, 10}},
+    {KaButtonEnum::Small, {32, 28, 10}},
+};
 
 } // namespace
 
@@ -39,23 +31,16 @@ void KaTitleBarButtonConfig::fillConfig(Config& out) const {
     out.sizePolicy = QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed, QSizePolicy::PushButton);
     out.focusPolicy = Qt::NoFocus;
     const bool close = m_type == Close;
-    out.colors.backgroundColorSet = KaColorTokenUtils::tokenToString(
-        close ? globalHeader_closeButton_background : globalHeader_maxMinButton_background);
-    out.colors.textColorSet = KaColorTokenUtils::tokenToString(close ? globalHeader_closeButton_text
-                                                                     : globalHeader_maxMinButton_text);
+    out.colors.backgroundColorSet =
+        name(close ? globalHeader_closeButton_background : globalHeader_maxMinButton_background);
+    out.colors.textColorSet = name(close ? globalHeader_closeButton_text : globalHeader_maxMinButton_text);
     out.colors.squareCorners = true;
-    int width = 0;
-    int height = 0;
-    int glyph = 0;
-    if (barRow(m_size, width, height, glyph))
-        out.fixedHeight = height;
+    if (const BarRow* row = KaSizeTable::find(kBars, m_size))
+        out.fixedHeight = row->height;
 }
 
 void KaTitleBarButtonConfig::fillGeometry(Geometry& out) const {
-    Config base;
-    fillConfig(base);
-    out = Geometry();
-    static_cast<Config&>(out) = base;
+    KaSizeTable::start(out, *this);
     switch (m_type) {
     case Minimize:
         out.glyph = MinimizeGlyph;
@@ -67,13 +52,10 @@ void KaTitleBarButtonConfig::fillGeometry(Geometry& out) const {
         out.glyph = CloseGlyph;
         break;
     }
-    int width = 0;
-    int height = 0;
-    int glyph = 0;
-    if (!barRow(m_size, width, height, glyph))
-        return;
-    out.fixedWidth = width;
-    out.glyphSize = QSize(glyph, glyph);
+    if (const BarRow* row = KaSizeTable::find(kBars, m_size)) {
+        out.fixedWidth = row->width;
+        out.glyphSize = QSize(row->glyph, row->glyph);
+    }
 }
 
 void KaTitleBarButtonConfig::setHasLeftIcon(bool) {}
@@ -81,25 +63,13 @@ void KaTitleBarButtonConfig::setHasLeftIcon(bool) {}
 void KaTitleBarButtonConfig::setHasRightIcon(bool) {}
 
 void KaTitleBarButtonConfig::setType(Type type) {
-    if (type == m_type)
-        return;
-    m_type = type;
-    Q_EMIT typeChanged(type);
-    Q_EMIT configChanged();
+    store(m_type, type, &KaTitleBarButtonConfig::typeChanged);
 }
 
 void KaTitleBarButtonConfig::setSize(KaButtonEnum::Size size) {
-    if (size == m_size)
-        return;
-    m_size = size;
-    Q_EMIT sizeChanged(size);
-    Q_EMIT configChanged();
+    store(m_size, size, &KaTitleBarButtonConfig::sizeChanged);
 }
 
 void KaTitleBarButtonConfig::setWindowMaximized(bool maximized) {
-    if (maximized == m_maximized)
-        return;
-    m_maximized = maximized;
-    Q_EMIT windowMaximizedChanged(maximized);
-    Q_EMIT configChanged();
+    store(m_maximized, maximized, &KaTitleBarButtonConfig::windowMaximizedChanged);
 }
