@@ -408,7 +408,7 @@ void tst_KaPopupUtils::smallBodyArrow() {
     bubble.fixedArrowSize = true;
     const QImage fixed = render(bubble, 1);
     const int row = ShadowMargin + 2;
-    auto opaqueIn = [row](const QImage& image) {
+    auto opaqueIn = [](const QImage& image) {
         int count = 0;
         for (int x = 0; x < image.width(); ++x)
             count += qAlpha(image.pixel(x, row)) > 200;
