@@ -5,11 +5,14 @@
 //     a style sheet (bar: at most 1.5 times);
 //  2. a theme switch over those pill buttons (updateSolvaneThemes, the
 //     queued onThemeChanged() calls and one repaint) against restyling the
-//     QPushButtons with setStyleSheet and one repaint (bar: at most 0.35).
-// Prints the medians and their ratios.
+//     QPushButtons with setStyleSheet and one repaint (bar: at most 0.35);
+//  3. the heap each of 5,000 shown KaPillButtons with an icon holds, against
+//     a shown QPushButton with an icon (bar: at most 2 times).
+// Prints the medians and their ratios, and the bytes per button.
 //
-//   QT_QPA_PLATFORM=offscreen ./bench_buttons [--rounds N] [--buttons N]
+//   QT_QPA_PLATFORM=offscreen ./bench_buttons [--rounds N] [--buttons N] [--heap N]
 
+#include "benchutils.h"
 #include "bzfont.h"
 #include "bzthememanager.h"
 #include "bzthemeutils.h"
@@ -19,39 +22,16 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
-#include <QGridLayout>
+#include <QIcon>
 #include <QPushButton>
 
 #include <algorithm>
 #include <cstdio>
-#include <functional>
-#include <memory>
 #include <vector>
 
 namespace {
 
 const char* const kThemes[] = {"dark", "light"};
-const int kColumns = 25;
-
-double median(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-// Builds, lays out, shows and paints a window of `count` widgets.
-std::unique_ptr<QWidget> makeGrid(int count, const std::function<QWidget*(int, QWidget*)>& make) {
-    auto window = std::make_unique<QWidget>();
-    auto* grid = new QGridLayout(window.get());
-    grid->setSpacing(2);
-    for (int i = 0; i < count; ++i)
-        grid->addWidget(make(i, window.get()), i / kColumns, i % kColumns);
-    // Room for every button at its size hint, so that no text is elided.
-    window->resize(window->sizeHint().expandedTo(QSize(1600, 1000)));
-    window->show();
-    QCoreApplication::processEvents();
-    window->repaint();
-    return window;
-}
 
 // Half primary, half secondary: both a borderless and a bordered face.
 KaButtonEnum::Style styleOf(int i) {
@@ -88,18 +68,8 @@ QWidget* makePlain(int i, QWidget* parent, BzThemeUtils::AppThemeType type) {
     return button;
 }
 
-double timeCreation(const std::function<QWidget*(int, QWidget*)>& make, int count) {
-    QElapsedTimer timer;
-    timer.start();
-    auto window = makeGrid(count, make);
-    const double ms = timer.nsecsElapsed() / 1e6;
-    window.reset();
-    QCoreApplication::processEvents();
-    return ms;
-}
-
 double measurePillSwitch(int count, int rounds) {
-    auto window = makeGrid(count, makePill);
+    auto window = bench::makeGrid(count, makePill);
     std::vector<double> times;
     for (int r = 0; r < rounds; ++r) {
         BzThemeManager::instance()->setCurrentTheme(QLatin1String(kThemes[r % 2]), BzThemeManager::DataOnly);
@@ -111,12 +81,12 @@ double measurePillSwitch(int count, int rounds) {
         times.push_back(timer.nsecsElapsed() / 1e6);
     }
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-    return median(times);
+    return bench::median(times);
 }
 
 double measurePlainRestyle(int count, int rounds) {
     std::vector<QPushButton*> buttons;
-    auto window = makeGrid(count, [&](int i, QWidget* parent) {
+    auto window = bench::makeGrid(count, [&](int i, QWidget* parent) {
         auto* button = static_cast<QPushButton*>(makePlain(i, parent, BzThemeUtils::Light));
         buttons.push_back(button);
         return button;
@@ -137,7 +107,24 @@ double measurePlainRestyle(int count, int rounds) {
         window->repaint();
         times.push_back(timer.nsecsElapsed() / 1e6);
     }
-    return median(times);
+    return bench::median(times);
+}
+
+// The heap comparison: one icon each, no style sheet on the QPushButton (a
+// sheet would only add to its side). The QIcon is shared, as a host keeps
+// its icons; the pills share theirs through the renderer's cache.
+QWidget* makeHeapPill(int i, QWidget* parent) {
+    auto* button = new KaPillButton(parent, styleOf(i), KaButtonEnum::Large);
+    button->setText(QStringLiteral("Join %1").arg(i));
+    button->setLeftIcon(QStringLiteral(":/Resources/meetings-bold.svg"));
+    return button;
+}
+
+QWidget* makeHeapPlain(int i, QWidget* parent) {
+    static const QIcon icon(QStringLiteral(":/Resources/meetings-bold.svg"));
+    auto* button = new QPushButton(icon, QStringLiteral("Join %1").arg(i), parent);
+    button->setFont(BzFont(BzFont::ButtonLarge));
+    return button;
 }
 
 } // namespace
@@ -150,27 +137,34 @@ int main(int argc, char** argv) {
                                     QStringLiteral("n"), QStringLiteral("7"));
     QCommandLineOption buttonsOption(QStringLiteral("buttons"), QStringLiteral("Buttons per side."),
                                      QStringLiteral("n"), QStringLiteral("1000"));
+    QCommandLineOption heapOption(QStringLiteral("heap"),
+                                  QStringLiteral("Buttons per side for the heap measurement."),
+                                  QStringLiteral("n"), QStringLiteral("5000"));
     parser.addOption(roundsOption);
     parser.addOption(buttonsOption);
+    parser.addOption(heapOption);
     parser.process(app);
     const int rounds = std::max(1, parser.value(roundsOption).toInt());
     const int count = std::max(1, parser.value(buttonsOption).toInt());
+    const int heapCount = std::max(1, parser.value(heapOption).toInt());
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
 
+    const auto makeLightPlain = [](int i, QWidget* p) {
+        return makePlain(i, p, BzThemeUtils::Light);
+    };
     // Warm-up: fonts, icons and theme caches are process-wide and paid once
     // by whichever side runs first.
-    timeCreation(makePill, 50);
-    timeCreation([](int i, QWidget* p) { return makePlain(i, p, BzThemeUtils::Light); }, 50);
+    bench::timeCreation(50, makePill);
+    bench::timeCreation(50, makeLightPlain);
 
     // Alternate the sides so that drift on a noisy machine hits both.
     std::vector<double> pillCreate, plainCreate;
     for (int r = 0; r < rounds; ++r) {
-        pillCreate.push_back(timeCreation(makePill, count));
-        plainCreate.push_back(
-            timeCreation([](int i, QWidget* p) { return makePlain(i, p, BzThemeUtils::Light); }, count));
+        pillCreate.push_back(bench::timeCreation(count, makePill));
+        plainCreate.push_back(bench::timeCreation(count, makeLightPlain));
     }
-    const double pc = median(pillCreate);
-    const double qc = median(plainCreate);
+    const double pc = bench::median(pillCreate);
+    const double qc = bench::median(plainCreate);
     std::printf("create + lay out + paint, %d KaPillButtons with icons: %8.2f ms\n", count, pc);
     std::printf("create + lay out + paint, %d styled QPushButtons:      %8.2f ms\n", count, qc);
     std::printf("ratio: %.3f (bar: at most 1.5)\n\n", pc / qc);
@@ -180,11 +174,29 @@ int main(int argc, char** argv) {
         pillSwitch.push_back(measurePillSwitch(count, rounds));
         plainSwitch.push_back(measurePlainRestyle(count, rounds));
     }
-    const double ps = median(pillSwitch);
-    const double qs = median(plainSwitch);
+    const double ps = bench::median(pillSwitch);
+    const double qs = bench::median(plainSwitch);
     std::printf("theme switch, %d KaPillButtons: %8.2f ms (updateSolvaneThemes + queued slots + repaint)\n",
                 count, ps);
     std::printf("restyle, %d QPushButtons:       %8.2f ms (setStyleSheet + repaint)\n", count, qs);
-    std::printf("ratio: %.3f (bar: at most 0.35)\n", ps / qs);
+    std::printf("ratio: %.3f (bar: at most 0.35)\n\n", ps / qs);
+
+    // Wider rows keep the window of many buttons from growing too tall.
+    const bench::GridShape heapShape{50, 2, QSize(1600, 1000)};
+    // Warm-up at full size: the first grid of this size leaves process-wide
+    // tables grown, and later grids reuse that room.
+    bench::heapPerWidget(heapCount, makeHeapPill, heapShape);
+    bench::heapPerWidget(heapCount, makeHeapPlain, heapShape);
+    std::vector<double> pillHeap, plainHeap;
+    for (int r = 0; r < 3; ++r) {
+        pillHeap.push_back(bench::heapPerWidget(heapCount, makeHeapPill, heapShape));
+        plainHeap.push_back(bench::heapPerWidget(heapCount, makeHeapPlain, heapShape));
+    }
+    const double ph = bench::median(pillHeap);
+    const double qh = bench::median(plainHeap);
+    std::printf("info: heap per shown button, %d each: KaPillButton with an icon %.0f bytes, "
+                "QPushButton with an icon %.0f bytes\n",
+                heapCount, ph, qh);
+    std::printf("ratio: %.3f (bar: at most 2)\n", ph / qh);
     return 0;
 }

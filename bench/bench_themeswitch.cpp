@@ -4,6 +4,7 @@
 //
 //   QT_QPA_PLATFORM=offscreen ./bench_themeswitch [--rounds N] [--widgets N]
 
+#include "benchutils.h"
 #include "bzthememanager.h"
 #include "bzthemeutils.h"
 #include "bzwidget.h"
@@ -13,12 +14,10 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
-#include <QGridLayout>
 #include <QPushButton>
 
 #include <algorithm>
 #include <cstdio>
-#include <memory>
 #include <vector>
 
 namespace {
@@ -34,45 +33,32 @@ public:
     }
 };
 
-std::unique_ptr<QWidget> makeGrid(int count, const std::function<QWidget*(int, QWidget*)>& make) {
-    auto window = std::make_unique<QWidget>();
-    auto* grid = new QGridLayout(window.get());
-    grid->setSpacing(1);
-    const int columns = 50;
-    for (int i = 0; i < count; ++i)
-        grid->addWidget(make(i, window.get()), i / columns, i % columns);
-    window->resize(1600, 1000);
-    window->show();
-    QCoreApplication::processEvents();
-    window->repaint();
-    return window;
-}
-
-double median(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
+// Small widgets, 50 to a row.
+const bench::GridShape kShape{50, 1, QSize(1600, 1000)};
 
 const char* const kThemes[] = {"dark", "light"};
 
 double measureBase(int count, int rounds) {
-    auto window = makeGrid(count, [](int i, QWidget* parent) -> QWidget* {
-        BzCSSData data;
-        if (i % 2) {
-            auto* label = new KaLabelBase(QStringLiteral("Label %1").arg(i), parent);
-            data.textColorSet = QStringLiteral("label-primary-text");
-            label->setCSS(data);
-            return label;
-        }
-        auto* box = new BzWidget(parent);
-        box->setMinimumSize(12, 12);
-        data.backgroundColorSet = QStringLiteral("button-secondary-background");
-        data.borderColorSet = QStringLiteral("button-secondary-border");
-        data.setBorders(true);
-        data.borderRadius = 4;
-        box->setCSS(data);
-        return box;
-    });
+    auto window = bench::makeGrid(
+        count,
+        [](int i, QWidget* parent) -> QWidget* {
+            BzCSSData data;
+            if (i % 2) {
+                auto* label = new KaLabelBase(QStringLiteral("Label %1").arg(i), parent);
+                data.textColorSet = QStringLiteral("label-primary-text");
+                label->setCSS(data);
+                return label;
+            }
+            auto* box = new BzWidget(parent);
+            box->setMinimumSize(12, 12);
+            data.backgroundColorSet = QStringLiteral("button-secondary-background");
+            data.borderColorSet = QStringLiteral("button-secondary-border");
+            data.setBorders(true);
+            data.borderRadius = 4;
+            box->setCSS(data);
+            return box;
+        },
+        kShape);
     std::vector<double> times;
     for (int r = 0; r < rounds; ++r) {
         BzThemeManager::instance()->setCurrentTheme(QLatin1String(kThemes[r % 2]), BzThemeManager::DataOnly);
@@ -83,16 +69,19 @@ double measureBase(int count, int rounds) {
         window->repaint();
         times.push_back(timer.nsecsElapsed() / 1e6);
     }
-    return median(times);
+    return bench::median(times);
 }
 
 double measurePlain(int count, int rounds) {
     std::vector<QPushButton*> buttons;
-    auto window = makeGrid(count, [&](int i, QWidget* parent) -> QWidget* {
-        auto* button = new QPushButton(QStringLiteral("B%1").arg(i), parent);
-        buttons.push_back(button);
-        return button;
-    });
+    auto window = bench::makeGrid(
+        count,
+        [&](int i, QWidget* parent) -> QWidget* {
+            auto* button = new QPushButton(QStringLiteral("B%1").arg(i), parent);
+            buttons.push_back(button);
+            return button;
+        },
+        kShape);
     std::vector<double> times;
     for (int r = 0; r < rounds; ++r) {
         // The same colours the base widgets get, written out by hand.
@@ -114,19 +103,23 @@ double measurePlain(int count, int rounds) {
         window->repaint();
         times.push_back(timer.nsecsElapsed() / 1e6);
     }
-    return median(times);
+    return bench::median(times);
 }
 
 int styleSheetCallsOnReapply(int count) {
-    auto window = makeGrid(count, [](int i, QWidget* parent) -> QWidget* {
-        auto* label = new KaLabelBase(QStringLiteral("L%1").arg(i), parent);
-        // Half records, half free templates that do need Qt's style sheets.
-        if (i % 2)
-            label->setCSS(QStringLiteral("QLabel { color: $(label-primary-text); padding: 1px; }"));
-        else
-            BzThemeUtils::setWidgetCSS(label, QStringLiteral("QLabel { color: $(label-secondary-text); }"));
-        return label;
-    });
+    auto window = bench::makeGrid(
+        count,
+        [](int i, QWidget* parent) -> QWidget* {
+            auto* label = new KaLabelBase(QStringLiteral("L%1").arg(i), parent);
+            // Half records, half free templates that do need Qt's style sheets.
+            if (i % 2)
+                label->setCSS(QStringLiteral("QLabel { color: $(label-primary-text); padding: 1px; }"));
+            else
+                BzThemeUtils::setWidgetCSS(label,
+                                           QStringLiteral("QLabel { color: $(label-secondary-text); }"));
+            return label;
+        },
+        kShape);
     StyleChangeCounter counter;
     qApp->installEventFilter(&counter);
     KarvexUtils::updateSolvaneThemes();
@@ -157,8 +150,8 @@ int main(int argc, char** argv) {
         base.push_back(measureBase(widgets, rounds));
         plain.push_back(measurePlain(widgets, rounds));
     }
-    const double b = median(base);
-    const double p = median(plain);
+    const double b = bench::median(base);
+    const double p = bench::median(plain);
     std::printf(
         "theme switch, %d base-layer widgets: %8.2f ms (updateSolvaneThemes + queued slots + repaint)\n",
         widgets, b);

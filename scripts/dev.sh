@@ -3,7 +3,7 @@
 #   scripts/dev.sh gallery   install what is missing, build, run the gallery
 #                            (without a display: write its screenshots instead)
 #   scripts/dev.sh test      install what is missing, build and run every test,
-#                            then again built with ASan/UBSan/LSan
+#                            then again built by clang with ASan/UBSan/LSan
 #   scripts/dev.sh bench     build and run the benchmarks
 set -euo pipefail
 
@@ -14,6 +14,7 @@ jobs=$(nproc 2>/dev/null || echo 2)
 packages=(cmake ninja-build g++ pkg-config clang-format
           qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-declarative-dev
           qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
+          clang libclang-rt-14-dev ccache
           fontconfig fonts-dejavu-core xauth xvfb)
 
 install_missing() {
@@ -32,7 +33,12 @@ install_missing() {
 build() { # build DIR [cmake options...]; later options override the default build type
     local dir=$1
     shift
-    cmake -S . -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=Release "$@"
+    local launcher=()
+    if command -v ccache >/dev/null; then
+        launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    fi
+    # Warnings fail the build, with GCC and with clang alike.
+    cmake -S . -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=Release -DKARVEX_WERROR=ON "${launcher[@]}" "$@"
     cmake --build "$dir" -j "$jobs"
 }
 
@@ -55,17 +61,19 @@ test)
     install_missing
     build build
     run_tests build
-    echo "== again with AddressSanitizer, UndefinedBehaviorSanitizer and LeakSanitizer"
-    # Unoptimised: compiles in about half the time, and the sanitizers see more.
-    build build-sanitize -DCMAKE_BUILD_TYPE=Debug -DKARVEX_SANITIZE=ON -DKARVEX_BUILD_GALLERY=OFF \
-        -DKARVEX_BUILD_BENCH=OFF
-    run_tests build-sanitize
+    echo "== again built by clang with AddressSanitizer, UndefinedBehaviorSanitizer and LeakSanitizer"
+    # Unoptimised: compiles in about half the time, and the sanitizers see
+    # more. clang, so that its warnings and checks run on every change too.
+    build build-sanitize-clang -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug -DKARVEX_SANITIZE=ON \
+        -DKARVEX_BUILD_GALLERY=OFF -DKARVEX_BUILD_BENCH=OFF
+    run_tests build-sanitize-clang
     ;;
 bench)
     install_missing
     build build
     QT_QPA_PLATFORM=offscreen build/bench/bench_themeswitch
     QT_QPA_PLATFORM=offscreen build/bench/bench_buttons
+    QT_QPA_PLATFORM=offscreen build/bench/bench_labels
     ;;
 *)
     echo "usage: $0 gallery|test|bench" >&2

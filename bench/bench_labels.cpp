@@ -1,0 +1,181 @@
+// Cost of the themed label against a plain QLabel, in the same run:
+//  1. creating, laying out and painting once N KaLabels against N QLabels
+//     with the same texts and font (bar: at most 1.3 times);
+//  2. a theme switch over N shown KaLabels (updateSolvaneThemes, the queued
+//     onThemeChanged() calls and one repaint) against giving N shown QLabels
+//     in a Fusion-styled window a new application palette and one repaint
+//     (bar: at most 1.2 times);
+//  3. the heap each of 5,000 shown KaLabels holds, against a shown QLabel
+//     (bar: at most 1.5 times).
+// Prints the medians and their ratios, and the bytes per label.
+//
+//   QT_QPA_PLATFORM=offscreen ./bench_labels [--rounds N] [--labels N] [--heap N]
+
+#include "benchutils.h"
+#include "bzfont.h"
+#include "bzthememanager.h"
+#include "bzthemeutils.h"
+#include "kalabel.h"
+#include "karvexutils.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QPalette>
+#include <QStyle>
+#include <QStyleFactory>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+const char* const kThemes[] = {"dark", "light"};
+
+// Texts of a few lengths, as a form or a list shows them.
+QString textOf(int i) {
+    switch (i % 4) {
+    case 0:
+        return QStringLiteral("Name %1").arg(i);
+    case 1:
+        return QStringLiteral("Meeting room %1").arg(i);
+    case 2:
+        return QStringLiteral("%1 unread").arg(i);
+    default:
+        return QStringLiteral("Shared with %1 people").arg(i);
+    }
+}
+
+QWidget* makeKaLabel(int i, QWidget* parent) {
+    return new KaLabel(textOf(i), parent);
+}
+
+// The font KaLabel uses, so that both sides lay out the same glyphs.
+QWidget* makePlainLabel(int i, QWidget* parent) {
+    auto* label = new QLabel(textOf(i), parent);
+    label->setFont(BzFont(BzFont::Body));
+    return label;
+}
+
+// The palette a host would build from the same theme data.
+QPalette paletteFor(BzThemeUtils::AppThemeType type, const QPalette& base) {
+    QPalette palette = base;
+    const auto normal = [type](const char* set) {
+        return BzThemeUtils::getColorSet(set, type).normal();
+    };
+    palette.setColor(QPalette::WindowText, normal("label-primary-text"));
+    palette.setColor(QPalette::Text, normal("label-primary-text"));
+    palette.setColor(QPalette::Window, normal("panel-primary-background"));
+    palette.setColor(QPalette::Base, normal("panel-primary-background"));
+    return palette;
+}
+
+double measureKaLabelSwitch(int count, int rounds) {
+    auto window = bench::makeGrid(count, makeKaLabel);
+    std::vector<double> times;
+    for (int r = 0; r < rounds; ++r) {
+        BzThemeManager::instance()->setCurrentTheme(QLatin1String(kThemes[r % 2]), BzThemeManager::DataOnly);
+        QElapsedTimer timer;
+        timer.start();
+        KarvexUtils::updateSolvaneThemes();
+        QCoreApplication::processEvents();
+        window->repaint();
+        times.push_back(timer.nsecsElapsed() / 1e6);
+    }
+    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
+    return bench::median(times);
+}
+
+double measurePaletteSwitch(int count, int rounds) {
+    const QPalette original = QApplication::palette();
+    // Written before timing, as the theme data is for the KaLabels.
+    const QPalette palettes[] = {paletteFor(BzThemeUtils::Dark, original),
+                                 paletteFor(BzThemeUtils::Light, original)};
+    auto window = bench::makeGrid(count, makePlainLabel);
+    std::vector<double> times;
+    for (int r = 0; r < rounds; ++r) {
+        QElapsedTimer timer;
+        timer.start();
+        QApplication::setPalette(palettes[r % 2]);
+        QCoreApplication::processEvents();
+        window->repaint();
+        times.push_back(timer.nsecsElapsed() / 1e6);
+    }
+    window.reset();
+    QApplication::setPalette(original);
+    bench::flushEvents();
+    return bench::median(times);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    QCommandLineOption roundsOption(QStringLiteral("rounds"), QStringLiteral("Rounds per measurement."),
+                                    QStringLiteral("n"), QStringLiteral("7"));
+    QCommandLineOption labelsOption(QStringLiteral("labels"), QStringLiteral("Labels per side."),
+                                    QStringLiteral("n"), QStringLiteral("1000"));
+    QCommandLineOption heapOption(QStringLiteral("heap"),
+                                  QStringLiteral("Labels per side for the heap measurement."),
+                                  QStringLiteral("n"), QStringLiteral("5000"));
+    parser.addOption(roundsOption);
+    parser.addOption(labelsOption);
+    parser.addOption(heapOption);
+    parser.process(app);
+    const int rounds = std::max(1, parser.value(roundsOption).toInt());
+    const int count = std::max(1, parser.value(labelsOption).toInt());
+    const int heapCount = std::max(1, parser.value(heapOption).toInt());
+    // Both sides in the same style, the one the plain side is compared in.
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
+
+    // Warm-up: fonts and theme caches are process-wide and paid once by
+    // whichever side runs first.
+    bench::timeCreation(50, makeKaLabel);
+    bench::timeCreation(50, makePlainLabel);
+
+    // Alternate the sides so that drift on a noisy machine hits both.
+    std::vector<double> kaCreate, plainCreate;
+    for (int r = 0; r < rounds; ++r) {
+        kaCreate.push_back(bench::timeCreation(count, makeKaLabel));
+        plainCreate.push_back(bench::timeCreation(count, makePlainLabel));
+    }
+    const double kc = bench::median(kaCreate);
+    const double qc = bench::median(plainCreate);
+    std::printf("create + lay out + paint, %d KaLabels: %8.2f ms\n", count, kc);
+    std::printf("create + lay out + paint, %d QLabels:  %8.2f ms\n", count, qc);
+    std::printf("ratio: %.3f (bar: at most 1.3)\n\n", kc / qc);
+
+    std::vector<double> kaSwitch, plainSwitch;
+    for (int pass = 0; pass < 3; ++pass) {
+        kaSwitch.push_back(measureKaLabelSwitch(count, rounds));
+        plainSwitch.push_back(measurePaletteSwitch(count, rounds));
+    }
+    const double ks = bench::median(kaSwitch);
+    const double qs = bench::median(plainSwitch);
+    std::printf("theme switch, %d KaLabels: %8.2f ms (updateSolvaneThemes + queued slots + repaint)\n", count,
+                ks);
+    std::printf("palette switch, %d QLabels: %8.2f ms (QApplication::setPalette + repaint)\n", count, qs);
+    std::printf("ratio: %.3f (bar: at most 1.2)\n\n", ks / qs);
+
+    const bench::GridShape heapShape{50, 2, QSize(1600, 1000)};
+    // Warm-up at full size: the first grid of this size leaves process-wide
+    // tables grown, and later grids reuse that room.
+    bench::heapPerWidget(heapCount, makeKaLabel, heapShape);
+    bench::heapPerWidget(heapCount, makePlainLabel, heapShape);
+    std::vector<double> kaHeap, plainHeap;
+    for (int r = 0; r < 3; ++r) {
+        kaHeap.push_back(bench::heapPerWidget(heapCount, makeKaLabel, heapShape));
+        plainHeap.push_back(bench::heapPerWidget(heapCount, makePlainLabel, heapShape));
+    }
+    const double kh = bench::median(kaHeap);
+    const double qh = bench::median(plainHeap);
+    std::printf("info: heap per shown label, %d each: KaLabel %.0f bytes, QLabel %.0f bytes\n", heapCount, kh,
+                qh);
+    std::printf("ratio: %.3f (bar: at most 1.5)\n", kh / qh);
+    return 0;
+}

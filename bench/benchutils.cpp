@@ -1,0 +1,77 @@
+#include "benchutils.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QGridLayout>
+
+#include <malloc.h>
+
+#include <algorithm>
+
+namespace bench {
+
+namespace {
+
+// Bytes handed out by malloc and not yet freed, over all arenas. Blocks at
+// or above the mmap threshold are not in it.
+std::size_t heapInUse() {
+    return mallinfo2().uordblks;
+}
+
+void fixMmapThreshold() {
+    // glibc raises the threshold each time a large mmapped block is freed,
+    // so a freed backing store would land in the counted heap next time.
+    // A fixed threshold keeps every large block out of the count.
+    static const bool fixed = mallopt(M_MMAP_THRESHOLD, 128 * 1024) == 1;
+    Q_UNUSED(fixed)
+}
+
+} // namespace
+
+double median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+std::unique_ptr<QWidget> makeGrid(int count, const MakeWidget& make, const GridShape& shape) {
+    auto window = std::make_unique<QWidget>();
+    auto* grid = new QGridLayout(window.get());
+    grid->setSpacing(shape.spacing);
+    for (int i = 0; i < count; ++i)
+        grid->addWidget(make(i, window.get()), i / shape.columns, i % shape.columns);
+    window->resize(window->sizeHint().expandedTo(shape.minimumSize));
+    window->show();
+    QCoreApplication::processEvents();
+    window->repaint();
+    return window;
+}
+
+double timeCreation(int count, const MakeWidget& make, const GridShape& shape) {
+    QElapsedTimer timer;
+    timer.start();
+    auto window = makeGrid(count, make, shape);
+    const double ms = timer.nsecsElapsed() / 1e6;
+    window.reset();
+    flushEvents();
+    return ms;
+}
+
+double heapPerWidget(int count, const MakeWidget& make, const GridShape& shape) {
+    fixMmapThreshold();
+    flushEvents();
+    const std::size_t before = heapInUse();
+    auto window = makeGrid(count, make, shape);
+    flushEvents();
+    const std::size_t after = heapInUse();
+    window.reset();
+    flushEvents();
+    return (double(after) - double(before)) / count;
+}
+
+void flushEvents() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+} // namespace bench

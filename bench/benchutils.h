@@ -1,0 +1,43 @@
+#pragma once
+
+// What the benchmarks share: medians, a shown and painted grid of widgets,
+// and the heap a shown widget holds.
+
+#include <QSize>
+#include <QWidget>
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace bench {
+
+// Makes widget number i as a child of the given window.
+using MakeWidget = std::function<QWidget*(int, QWidget*)>;
+
+struct GridShape {
+    int columns = 25;
+    int spacing = 2;
+    // The window is at least this large, and larger where the widgets' size
+    // hints need it, so that no text is elided.
+    QSize minimumSize{1600, 1000};
+};
+
+double median(std::vector<double> values);
+
+// Builds, lays out, shows and paints a window of `count` widgets.
+std::unique_ptr<QWidget> makeGrid(int count, const MakeWidget& make, const GridShape& shape = {});
+
+// Milliseconds makeGrid() takes; the window is torn down untimed.
+double timeCreation(int count, const MakeWidget& make, const GridShape& shape = {});
+
+// Heap bytes each widget of a shown, painted grid holds, for one grid.
+// Large blocks (the window's backing store, which both sides of a
+// comparison pay once) are kept out of the count.
+double heapPerWidget(int count, const MakeWidget& make, const GridShape& shape = {});
+
+// Deletes what is scheduled for deletion and settles posted events.
+void flushEvents();
+
+} // namespace bench
