@@ -16,7 +16,7 @@ class QStyleOption;
 class BRISEL_EXPORT BzColorSet {
 public:
     // Order matters: it is the order of the six colours in theme files.
-    enum State { Normal = 0, Hovered, Pressed, Disabled, Focused, Checked, StateCount };
+    enum State : int { Normal = 0, Hovered, Pressed, Disabled, Focused, Checked, StateCount };
 
     BzColorSet() = default;
     explicit BzColorSet(const QString& name, const QColor& all = QColor());

@@ -10,12 +10,12 @@ namespace BzEnum {
 Q_NAMESPACE_EXPORT(BRISEL_EXPORT)
 
 // Where an icon sits relative to the text or inside its box.
-enum Alignment { AlignLeft, AlignRight, AlignTop, AlignBottom, AlignCenter };
+enum Alignment : int { AlignLeft, AlignRight, AlignTop, AlignBottom, AlignCenter };
 Q_ENUM_NS(Alignment)
 
 // Horizontal text alignment. Left and Right are the leading and trailing
 // sides: in a right-to-left layout Left puts the text on the right.
-enum HorAlign { Left, Center, Right };
+enum HorAlign : int { Left, Center, Right };
 Q_ENUM_NS(HorAlign)
 
 // The visual horizontal alignment for `align` under `direction`. Left and

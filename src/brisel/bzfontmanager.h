@@ -14,7 +14,7 @@ Q_NAMESPACE_EXPORT(BRISEL_EXPORT)
 
 // How a widget takes its font from the manager. Fixed fonts keep their table
 // size whatever the text scale; None means the widget keeps its own font.
-enum FontType { None = 0, Scaled = 1, Fixed = 2 };
+enum FontType : int { None = 0, Scaled = 1, Fixed = 2 };
 Q_ENUM_NS(FontType)
 } // namespace FontManagerEnum
 

@@ -9,7 +9,7 @@
 namespace FontUtils {
 
 // Faces of the bundled family, lightest first.
-enum FontFamily { Light = 0, Regular = 1, Medium = 2, SemiBold = 3, Bold = 4 };
+enum FontFamily : int { Light = 0, Regular = 1, Medium = 2, SemiBold = 3, Bold = 4 };
 
 // `pixelSize` below 1 is raised to 1 with a warning.
 BRISEL_EXPORT QFont getFontByPixelSize(int pixelSize, QFont::Weight weight = QFont::Normal);
