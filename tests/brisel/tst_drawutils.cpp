@@ -148,18 +148,14 @@ private Q_SLOTS:
     }
 
     void elidedText() {
-        QFont font;
-        font.setPixelSize(14);
-        const QFontMetrics fm(font);
+        // Qt elides; ours adds that no room means no text, not an ellipsis.
+        const QFontMetrics fm{QFont()};
         const QString text = QStringLiteral("A fairly long line of text for eliding");
-        QCOMPARE(DrawUtils::elidedText(fm, text, Qt::ElideRight, 10000), text);
         QCOMPARE(DrawUtils::elidedText(fm, text, Qt::ElideRight, 0), QString());
         QCOMPARE(DrawUtils::elidedText(fm, text, Qt::ElideRight, -5), QString());
         const int width = fm.horizontalAdvance(text) / 2;
-        const QString right = DrawUtils::elidedText(fm, text, Qt::ElideRight, width);
-        QVERIFY(right.endsWith(QChar(0x2026)));
-        QVERIFY(fm.horizontalAdvance(right) <= width);
-        QVERIFY(DrawUtils::elidedText(fm, text, Qt::ElideLeft, width).startsWith(QChar(0x2026)));
+        QCOMPARE(DrawUtils::elidedText(fm, text, Qt::ElideLeft, width),
+                 fm.elidedText(text, Qt::ElideLeft, width));
     }
 
     void softShadowFadesOut() {
