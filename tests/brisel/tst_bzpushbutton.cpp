@@ -82,8 +82,6 @@ void TestBzPushButton::faceFollowsState_data() {
     QTest::newRow("pressed") << "press" << true << int(BzColorSet::Pressed);
     QTest::newRow("disabled") << "disable" << true << int(BzColorSet::Disabled);
     QTest::newRow("checked") << "check" << true << int(BzColorSet::Checked);
-    QTest::newRow("hover beats checked") << "check hover" << true << int(BzColorSet::Hovered);
-    QTest::newRow("disabled beats checked") << "check disable" << true << int(BzColorSet::Disabled);
     QTest::newRow("state tracking off") << "hover" << false << int(BzColorSet::Normal);
     QTest::newRow("state tracking off, disabled") << "disable" << false << int(BzColorSet::Disabled);
 }
