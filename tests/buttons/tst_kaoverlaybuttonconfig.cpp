@@ -17,8 +17,7 @@ private Q_SLOTS:
     void colours();
     void arrowFollowsLayoutDirection_data();
     void arrowFollowsLayoutDirection();
-    void geometryBySize_data();
-    void geometryBySize();
+    void sizeNotifiesOnlyOnChange();
 };
 
 void tst_KaOverlayButtonConfig::colours_data() {
@@ -78,32 +77,20 @@ void tst_KaOverlayButtonConfig::arrowFollowsLayoutDirection() {
     QCOMPARE(appGeometry.svgIcon, icon);
 }
 
-void tst_KaOverlayButtonConfig::geometryBySize_data() {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("icon");
-    QTest::newRow("Micro") << 0 << 20 << 12;
-    QTest::newRow("ExtraSmall") << 1 << 24 << 13;
-    QTest::newRow("Small") << 2 << 28 << 16;
-    QTest::newRow("Normal") << 3 << 28 << 16;
-    QTest::newRow("Large") << 4 << 32 << 16;
-    QTest::newRow("ExtraLarge") << 5 << 40 << 20;
-    QTest::newRow("outside the enumeration") << 6 << 0 << 12;
-}
-
-void tst_KaOverlayButtonConfig::geometryBySize() {
-    QFETCH(int, size);
-    QFETCH(int, height);
-    QFETCH(int, icon);
+void tst_KaOverlayButtonConfig::sizeNotifiesOnlyOnChange() {
     KaOverlayButtonConfig config;
-    QCOMPARE(config.size(), KaOverlayButtonEnum::Normal);
     QSignalSpy sizeSpy(&config, &KaOverlayButtonConfig::sizeChanged);
-    config.setSize(KaOverlayButtonEnum::Size(size));
-    QCOMPARE(sizeSpy.count(), size == KaOverlayButtonEnum::Normal ? 0 : 1);
-    KaOverlayButtonConfig::Geometry g;
-    config.fillGeometry(g, Qt::LeftToRight);
-    QCOMPARE(g.fixedHeight, height);
-    QCOMPARE(g.svgIconSize, QSize(icon, icon));
+    config.setSize(config.size());
+    QCOMPARE(sizeSpy.count(), 0);
+    config.setSize(KaOverlayButtonEnum::Micro);
+    config.setSize(KaOverlayButtonEnum::Micro);
+    QCOMPARE(sizeSpy.count(), 1);
+    KaOverlayButtonConfig::Geometry micro;
+    config.fillGeometry(micro, Qt::LeftToRight);
+    config.setSize(KaOverlayButtonEnum::ExtraLarge);
+    KaOverlayButtonConfig::Geometry large;
+    config.fillGeometry(large, Qt::LeftToRight);
+    QVERIFY(micro.fixedHeight < large.fixedHeight);
 }
 
 QTEST_MAIN(tst_KaOverlayButtonConfig)

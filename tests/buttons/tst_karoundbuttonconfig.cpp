@@ -12,8 +12,6 @@ class tst_KaRoundButtonConfig : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void startsSmall();
-    void geometryBySize_data();
-    void geometryBySize();
     void refusesRightIcon_data();
     void refusesRightIcon();
     void rightIconPathWarnsOnce();
@@ -28,35 +26,6 @@ void tst_KaRoundButtonConfig::startsSmall() {
     QCOMPARE(g.fixedHeight, 32);
     QCOMPARE(g.sizePolicy.horizontalPolicy(), QSizePolicy::Fixed);
     QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
-}
-
-void tst_KaRoundButtonConfig::geometryBySize_data() {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("diameter");
-    QTest::addColumn<int>("icon");
-    QTest::newRow("ExtraLarge") << 0 << 64 << 32;
-    QTest::newRow("Large") << 1 << 52 << 28;
-    QTest::newRow("Normal") << 2 << 40 << 20;
-    QTest::newRow("Small") << 3 << 32 << 16;
-    QTest::newRow("ExtraSmall") << 4 << 28 << 16;
-    QTest::newRow("ExtraExtraSmall") << 5 << 24 << 13;
-    QTest::newRow("ExtraExtraExtraSmall") << 6 << 16 << 8;
-    QTest::newRow("outside the enumeration") << 7 << 0 << 12;
-}
-
-void tst_KaRoundButtonConfig::geometryBySize() {
-    QFETCH(int, size);
-    QFETCH(int, diameter);
-    QFETCH(int, icon);
-    KaRoundButtonConfig round;
-    round.setSize(KaButtonEnum::Size(size));
-    KaRoundButtonConfig::Geometry g;
-    round.fillGeometry(g);
-    QCOMPARE(g.fixedHeight, diameter);
-    QCOMPARE(g.svgIconSize, QSize(icon, icon));
-    // No text, so no font token.
-    QCOMPARE(g.fontToken, 0);
-    QCOMPARE(g.sizePolicy, round.sizePolicy());
 }
 
 void tst_KaRoundButtonConfig::refusesRightIcon_data() {

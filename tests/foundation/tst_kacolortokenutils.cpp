@@ -10,43 +10,31 @@
 class tst_KaColorTokenUtils : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void names_data();
-    void names();
+    void outOfRange_data();
+    void outOfRange();
     void stdAndQtAgree();
     void strictlyAscending();
     void nameForm();
-    void identifiers();
     void matchesTokenList();
 };
 
-void tst_KaColorTokenUtils::names_data() {
+// Values from outside the table (a cast int, stale settings) name nothing.
+void tst_KaColorTokenUtils::outOfRange_data() {
     QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("name");
-
-    QTest::newRow("first") << 0 << QStringLiteral("alertbadge-announcement-background");
-    QTest::newRow("last") << 821 << QStringLiteral("welcomeCard-titleText");
-    QTest::newRow("first button") << 122 << QStringLiteral("button-accent-fill-background");
-    QTest::newRow("button-primary-border") << 191 << QStringLiteral("button-primary-border");
-    QTest::newRow("last button") << 198 << QStringLiteral("button-secondary-text");
-    QTest::newRow("single-member family") << 220 << QStringLiteral("cancelicon-default-icon");
-    QTest::newRow("popover") << 534 << QStringLiteral("popover-primary-background");
-    QTest::newRow("newFeature-tag-border") << 500 << QStringLiteral("newFeature-tag-border");
-    QTest::newRow("past the end") << 822 << QString();
-    QTest::newRow("negative") << -1 << QString();
-    QTest::newRow("far out") << INT_MAX << QString();
-    QTest::newRow("far below") << INT_MIN << QString();
+    QTest::newRow("past the end") << int(Karvox::TokenCount);
+    QTest::newRow("negative") << -1;
+    QTest::newRow("far out") << INT_MAX;
+    QTest::newRow("far below") << INT_MIN;
 }
 
-void tst_KaColorTokenUtils::names() {
+void tst_KaColorTokenUtils::outOfRange() {
     QFETCH(int, value);
-    QFETCH(QString, name);
     const auto token = static_cast<Karvox::Token>(value);
-    QCOMPARE(KaColorTokenUtils::tokenToString(token), name);
-    QCOMPARE(KaColorTokenUtils::tokenToStdString(token), name.toStdString());
+    QVERIFY(KaColorTokenUtils::tokenToString(token).isEmpty());
+    QVERIFY(KaColorTokenUtils::tokenToStdString(token).empty());
 }
 
 void tst_KaColorTokenUtils::stdAndQtAgree() {
-    QCOMPARE(Karvox::TokenCount, 822);
     for (int value = -2; value <= Karvox::TokenCount + 1; ++value) {
         const auto token = static_cast<Karvox::Token>(value);
         const std::string stdName = KaColorTokenUtils::tokenToStdString(token);
@@ -74,20 +62,6 @@ void tst_KaColorTokenUtils::nameForm() {
         const QString name = KaColorTokenUtils::tokenToString(static_cast<Karvox::Token>(value));
         QVERIFY2(form.match(name).hasMatch(), qPrintable(name));
     }
-}
-
-// Member names are the token names with "-" turned into "_".
-void tst_KaColorTokenUtils::identifiers() {
-    using namespace KaColorTokenUtils;
-    QCOMPARE(tokenToString(Karvox::alertbadge_announcement_background),
-             QStringLiteral("alertbadge-announcement-background"));
-    QCOMPARE(tokenToString(Karvox::button_primary_background), QStringLiteral("button-primary-background"));
-    QCOMPARE(tokenToString(Karvox::button_join_animated_gradient_background_normal_1),
-             QStringLiteral("button-join-animated-gradient-background-normal-1"));
-    QCOMPARE(tokenToString(Karvox::videoSupport_videoNameLabels_videoOff_iconMute),
-             QStringLiteral("videoSupport-videoNameLabels-videoOff-iconMute"));
-    QCOMPARE(tokenToString(Karvox::newFeature_tag_border), QStringLiteral("newFeature-tag-border"));
-    QCOMPARE(int(Karvox::welcomeCard_titleText), 821);
 }
 
 // The generated table must follow the list it is generated from.

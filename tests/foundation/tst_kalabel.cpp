@@ -35,7 +35,6 @@ private Q_SLOTS:
 
     void defaultColorSet_data();
     void defaultColorSet();
-    void constructorsPassRoleAndFlags();
     void textColorSetName();
 
     void sizeHint_data();
@@ -82,16 +81,6 @@ void tst_KaLabel::defaultColorSet() {
     QVERIFY(record.backgroundColorSet.isEmpty());
     QVERIFY(record.borderColorSet.isEmpty());
     QVERIFY(!record.hasAnyBorder());
-}
-
-void tst_KaLabel::constructorsPassRoleAndFlags() {
-    KaLabel window(nullptr, QAccessible::Heading, Qt::Tool);
-    QCOMPARE(window.accessibleRole(), QAccessible::Heading);
-    QCOMPARE(window.windowType(), Qt::Tool);
-    KaLabel text(QStringLiteral("x"), nullptr, QAccessible::Link, Qt::ToolTip);
-    QCOMPARE(text.text(), QStringLiteral("x"));
-    QCOMPARE(text.accessibleRole(), QAccessible::Link);
-    QCOMPARE(text.windowType(), Qt::ToolTip);
 }
 
 void tst_KaLabel::textColorSetName() {

@@ -37,10 +37,8 @@ private Q_SLOTS:
     void hints_data();
     void hints();
     void overridesWhateverTheBase();
-    void menuSpaceActivates_data();
-    void menuSpaceActivates();
-    void menuKeyboardSearch_data();
-    void menuKeyboardSearch();
+    void menuKeys_data();
+    void menuKeys();
 };
 
 void tst_KaStyle::hints_data() {
@@ -74,49 +72,36 @@ void tst_KaStyle::overridesWhateverTheBase() {
              overApplication.baseStyle()->styleHint(QStyle::SH_Menu_SubMenuPopupDelay));
 }
 
-// Same menu, same keys: only the style decides.
-void tst_KaStyle::menuSpaceActivates_data() {
+// Same menu, same keys: only the style decides. Banana is active; space
+// triggers it, typing "c" moves to Cherry.
+void tst_KaStyle::menuKeys_data() {
     QTest::addColumn<bool>("useKaStyle");
-    QTest::newRow("plain") << false;
-    QTest::newRow("KaStyle") << true;
+    QTest::addColumn<int>("key");
+    QTest::newRow("space, plain") << false << int(Qt::Key_Space);
+    QTest::newRow("space, KaStyle") << true << int(Qt::Key_Space);
+    QTest::newRow("search, plain") << false << int(Qt::Key_C);
+    QTest::newRow("search, KaStyle") << true << int(Qt::Key_C);
 }
 
-void tst_KaStyle::menuSpaceActivates() {
+void tst_KaStyle::menuKeys() {
     QFETCH(bool, useKaStyle);
+    QFETCH(int, key);
     std::unique_ptr<QStyle> style(useKaStyle ? static_cast<QStyle*>(new KaStyle(new PlainMenuStyle))
                                              : new PlainMenuStyle);
     QMenu menu;
     menu.setStyle(style.get());
     menu.addAction(QStringLiteral("Apple"));
     QAction* banana = menu.addAction(QStringLiteral("Banana"));
+    QAction* cherry = menu.addAction(QStringLiteral("Cherry"));
     QSignalSpy triggered(banana, &QAction::triggered);
     menu.popup(QPoint(10, 10));
     QVERIFY(QTest::qWaitForWindowExposed(&menu));
     menu.setActiveAction(banana);
-
-    QTest::keyClick(&menu, Qt::Key_Space);
-    QCOMPARE(triggered.count(), useKaStyle ? 1 : 0);
-}
-
-void tst_KaStyle::menuKeyboardSearch_data() {
-    menuSpaceActivates_data();
-}
-
-void tst_KaStyle::menuKeyboardSearch() {
-    QFETCH(bool, useKaStyle);
-    std::unique_ptr<QStyle> style(useKaStyle ? static_cast<QStyle*>(new KaStyle(new PlainMenuStyle))
-                                             : new PlainMenuStyle);
-    QMenu menu;
-    menu.setStyle(style.get());
-    QAction* apple = menu.addAction(QStringLiteral("Apple"));
-    menu.addAction(QStringLiteral("Banana"));
-    QAction* cherry = menu.addAction(QStringLiteral("Cherry"));
-    menu.popup(QPoint(10, 10));
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
-    menu.setActiveAction(apple);
-
-    QTest::keyClick(&menu, Qt::Key_C);
-    QCOMPARE(menu.activeAction(), useKaStyle ? cherry : apple);
+    QTest::keyClick(&menu, Qt::Key(key));
+    if (key == Qt::Key_Space)
+        QCOMPARE(triggered.count(), useKaStyle ? 1 : 0);
+    else
+        QCOMPARE(menu.activeAction(), useKaStyle ? cherry : banana);
 }
 
 QTEST_MAIN(tst_KaStyle)

@@ -25,7 +25,6 @@ private Q_SLOTS:
     void doubles_data();
     void doubles();
     void nullSourceText();
-    void placeholdersFilledTwice();
     void installedAnswersLookups();
     void shadowsEarlierTranslators();
 };
@@ -59,13 +58,6 @@ void tst_KaSudoTranslator::nullSourceText() {
     const QString result = translator.translate("Context", nullptr);
     QVERIFY(!result.isNull());
     QCOMPARE(result, QStringLiteral(" "));
-}
-
-void tst_KaSudoTranslator::placeholdersFilledTwice() {
-    KaSudoTranslator translator;
-    QCOMPARE(translator.translate("Context", "%1 selected").arg(4), QStringLiteral("4 selected 4 selected"));
-    QCOMPARE(translator.translate("Context", "%1, %2 of %3").arg(QStringLiteral("Apple")).arg(2).arg(7),
-             QStringLiteral("Apple, 2 of 7 Apple, 2 of 7"));
 }
 
 void tst_KaSudoTranslator::installedAnswersLookups() {

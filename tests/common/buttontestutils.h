@@ -1,0 +1,61 @@
+#pragma once
+
+// Scaffolding shared by the button tests: painting a widget on its own,
+// looking colours up, switching themes the way a host does, and the
+// process-wide high-contrast flag.
+
+#include "bzthememanager.h"
+#include "bzthemeutils.h"
+#include "kaconfig.h"
+#include "karvexutils.h"
+
+#include <QImage>
+#include <QTest>
+#include <QWidget>
+
+namespace ButtonTest {
+
+// What the widget paints by itself, on a transparent image: grab() would
+// show the parent's background through the empty corners.
+inline QImage rendered(QWidget* widget) {
+    QImage image(widget->QWidget::size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+inline QColor pixelAt(QWidget* widget, const QPoint& at) {
+    return rendered(widget).pixelColor(at);
+}
+
+// The normal colour of a colour set in the current (or the given) theme.
+inline QColor colorOf(const char* set, BzThemeUtils::AppThemeType type = BzThemeUtils::Global) {
+    return BzThemeUtils::getColorSet(QString::fromLatin1(set), type).normal();
+}
+
+// As a host switches: theme data first, then one refresh of every widget.
+inline void switchTheme(const char* name) {
+    BzThemeManager::instance()->setCurrentTheme(QString::fromLatin1(name), BzThemeManager::DataOnly);
+    KarvexUtils::updateSolvaneThemes();
+}
+
+// Sets the process-wide flag and restores it even when a check fails half-way.
+struct HighContrastScope {
+    explicit HighContrastScope(bool on)
+        : previous(KaConfig::highContrast) {
+        KaConfig::setIsHighContrast(on);
+    }
+    ~HighContrastScope() { KaConfig::setIsHighContrast(previous); }
+    HighContrastScope(const HighContrastScope&) = delete;
+    HighContrastScope& operator=(const HighContrastScope&) = delete;
+    bool previous;
+};
+
+// Shows `window` at `geometry` and waits until it is exposed.
+[[nodiscard]] inline bool shown(QWidget& window, const QRect& geometry = QRect(300, 300, 160, 80)) {
+    window.setGeometry(geometry);
+    window.show();
+    return QTest::qWaitForWindowExposed(&window);
+}
+
+} // namespace ButtonTest
