@@ -1,5 +1,4 @@
-#include "bzthememanager.h"
-#include "bzthemeutils.h"
+#include "buttontestutils.h"
 #include "kabutton.h"
 #include "kapillbuttonconfig.h"
 
@@ -8,16 +7,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace {
+using namespace ButtonTest;
 
-// What the button paints by itself, on a transparent image: grab() would
-// show the parent's background through the empty corners.
-QImage rendered(QWidget* widget) {
-    QImage image(widget->QWidget::size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
+namespace {
 
 // Stands in for the library's menu class: any QMenu subclass attaches.
 class TestMenu : public QMenu {

@@ -1,5 +1,4 @@
-#include "bzthememanager.h"
-#include "bzthemeutils.h"
+#include "buttontestutils.h"
 #include "kadialpadbutton.h"
 
 #include <QAccessible>
@@ -7,18 +6,11 @@
 #include <QTest>
 #include <QTimer>
 
+#include <climits>
+
+using namespace ButtonTest;
+
 namespace {
-
-QImage paint(QWidget& widget) {
-    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
-
-QColor normal(const char* set) {
-    return BzThemeUtils::getColorSet(QString::fromLatin1(set)).normal();
-}
 
 // Whether a pixel close to `colour` lies within rows [top, bottom).
 bool inkIn(const QImage& image, const QColor& colour, int top, int bottom) {
@@ -47,7 +39,6 @@ private Q_SLOTS:
     void typingTheCharacter();
     void digitAboveLetters();
     void specialKey();
-    void circleBySize_data();
     void circleBySize();
 };
 
@@ -164,9 +155,9 @@ void tst_KaDialpadButton::typingTheCharacter() {
 void tst_KaDialpadButton::digitAboveLetters() {
     KaDialpadButton key(QStringLiteral("8"));
     key.resize(56, 56);
-    const QImage image = paint(key);
-    const QColor number = normal("button-dialpad-text-number");
-    const QColor letters = normal("button-dialpad-text-characters");
+    const QImage image = rendered(&key);
+    const QColor number = colorOf("button-dialpad-text-number");
+    const QColor letters = colorOf("button-dialpad-text-characters");
     const int middle = image.height() / 2 + 2;
     QVERIFY(inkIn(image, number, 0, middle));
     QVERIFY(!inkIn(image, number, middle + 2, image.height()));
@@ -177,32 +168,28 @@ void tst_KaDialpadButton::specialKey() {
     KaDialpadButton key(QStringLiteral("*"));
     key.resize(56, 56);
     const QPoint face(28, 6);
-    QCOMPARE(paint(key).pixelColor(face).rgb(), normal("button-dialpad-background").rgb());
+    QCOMPARE(rendered(&key).pixelColor(face).rgb(), colorOf("button-dialpad-background").rgb());
     QSignalSpy spy(&key, &KaDialpadButton::specialChanged);
     key.setSpecial(true);
     key.setSpecial(true);
     QCOMPARE(spy.count(), 1);
-    QCOMPARE(paint(key).pixelColor(face).rgb(), normal("button-dialpad-special-background").rgb());
+    QCOMPARE(rendered(&key).pixelColor(face).rgb(), colorOf("button-dialpad-special-background").rgb());
     QCOMPARE(key.getWCSS().textColorSet, QStringLiteral("button-dialpad-special-text-number"));
 }
 
-void tst_KaDialpadButton::circleBySize_data() {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("diameter");
-    QTest::newRow("ExtraLarge") << int(KaButtonEnum::ExtraLarge) << 72;
-    QTest::newRow("Large") << int(KaButtonEnum::Large) << 64;
-    QTest::newRow("Normal") << int(KaButtonEnum::Normal) << 56;
-    QTest::newRow("Small") << int(KaButtonEnum::Small) << 48;
-}
-
+// A circle at every size, smaller sizes smaller.
 void tst_KaDialpadButton::circleBySize() {
-    QFETCH(int, size);
-    QFETCH(int, diameter);
     KaDialpadButton key(QStringLiteral("4"));
-    key.setSize(KaButtonEnum::Size(size));
-    QCOMPARE(key.minimumSize(), QSize(diameter, diameter));
-    QCOMPARE(key.maximumSize(), QSize(diameter, diameter));
-    QCOMPARE(key.property("focusBorderRadius").toReal(), diameter / 2.0);
+    int previous = INT_MAX;
+    for (int size = KaButtonEnum::ExtraLarge; size <= KaButtonEnum::Small; ++size) {
+        key.setSize(KaButtonEnum::Size(size));
+        const int diameter = key.maximumWidth();
+        QCOMPARE(key.minimumSize(), QSize(diameter, diameter));
+        QCOMPARE(key.maximumSize(), QSize(diameter, diameter));
+        QCOMPARE(key.property("focusBorderRadius").toReal(), diameter / 2.0);
+        QVERIFY(diameter < previous);
+        previous = diameter;
+    }
 }
 
 QTEST_MAIN(tst_KaDialpadButton)

@@ -1,5 +1,4 @@
-#include "bzthememanager.h"
-#include "bzthemeutils.h"
+#include "buttontestutils.h"
 #include "drawutils.h"
 #include "kadualcellbutton.h"
 #include "kadualcombobutton.h"
@@ -10,18 +9,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace ButtonTest;
+
 namespace {
-
-QImage paint(QWidget& widget) {
-    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
-
-QRgb normal(const char* set) {
-    return BzThemeUtils::getColorSet(QString::fromLatin1(set)).normal().rgb();
-}
 
 // Shows the button in a window of its own and waits for the layout.
 struct Shown {
@@ -132,11 +122,11 @@ void tst_KaDualComboButton::sharedEdgeDrawnOnce() {
     leading->setText(QString());
     trailing->setText(QString());
 
-    const QRgb border = normal("button-secondary-border");
-    const QRgb face = normal("button-secondary-background");
+    const QRgb border = colorOf("button-secondary-border").rgb();
+    const QRgb face = colorOf("button-secondary-background").rgb();
     const bool rtl = direction == Qt::RightToLeft;
-    const QImage lead = paint(*leading);
-    const QImage trail = paint(*trailing);
+    const QImage lead = rendered(leading);
+    const QImage trail = rendered(trailing);
     const int mid = lead.height() / 2;
     const int leadEnd = rtl ? 0 : lead.width() - 1;
     const int trailStart = rtl ? trail.width() - 1 : 0;
@@ -227,19 +217,19 @@ void tst_KaDualComboButton::checkedPaintsBothCells() {
     KaDualCellButton* icon = button->iconCell();
     icon->setLeftIcon(QString());
     const QPoint inside(icon->width() / 2, icon->height() / 2);
-    QCOMPARE(paint(*icon).pixel(inside), normal("button-secondary-background"));
+    QCOMPARE(rendered(icon).pixel(inside), colorOf("button-secondary-background").rgb());
 
     QTest::mouseClick(button->labelCell(), Qt::LeftButton);
     QVERIFY(button->isChecked());
     QCOMPARE(toggled.count(), 1);
     QVERIFY(button->dualButtonConfig()->isChecked());
     icon->setAttribute(Qt::WA_UnderMouse, false);
-    QCOMPARE(paint(*icon).pixel(inside), normal("button-secondary-active-background"));
+    QCOMPARE(rendered(icon).pixel(inside), colorOf("button-secondary-active-background").rgb());
     QCOMPARE(button->labelCell()->getWCSS().textColorSet, QStringLiteral("button-secondary-active-text"));
 
     button->setCheckable(false);
     QVERIFY(!button->isChecked());
-    QCOMPARE(paint(*icon).pixel(inside), normal("button-secondary-background"));
+    QCOMPARE(rendered(icon).pixel(inside), colorOf("button-secondary-background").rgb());
 }
 
 // The faces are the cell's own colour sets, resolved again on a switch.
@@ -248,12 +238,12 @@ void tst_KaDualComboButton::themeSwitchRepaintsFaces() {
     KaDualCellButton* icon = shown.button->iconCell();
     icon->setLeftIcon(QString());
     const QPoint inside(icon->width() / 2, icon->height() / 2);
-    const QRgb light = normal("button-secondary-background");
-    QCOMPARE(paint(*icon).pixel(inside), light);
+    const QRgb light = colorOf("button-secondary-background").rgb();
+    QCOMPARE(rendered(icon).pixel(inside), light);
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
-    const QRgb dark = normal("button-secondary-background");
+    const QRgb dark = colorOf("button-secondary-background").rgb();
     QVERIFY(dark != light);
-    QTRY_COMPARE(paint(*icon).pixel(inside), dark);
+    QTRY_COMPARE(rendered(icon).pixel(inside), dark);
 }
 
 void tst_KaDualComboButton::accessibility() {

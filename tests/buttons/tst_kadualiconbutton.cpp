@@ -1,5 +1,4 @@
-#include "bzthememanager.h"
-#include "bzthemeutils.h"
+#include "buttontestutils.h"
 #include "kadualcellbutton.h"
 #include "kadualiconbutton.h"
 
@@ -8,18 +7,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace ButtonTest;
+
 namespace {
-
-QImage paint(QWidget& widget) {
-    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
-
-QRgb normal(const char* set) {
-    return BzThemeUtils::getColorSet(QString::fromLatin1(set)).normal().rgb();
-}
 
 struct Shown {
     QWidget window;
@@ -105,9 +95,10 @@ void tst_KaDualIconButton::splitDecidesSharedEdge() {
     Shown shown{KaDualButtonEnum::IconButtonStyle(style)};
     KaDualCellButton* first = shown.button->firstCell();
     first->setLeftIcon(QString());
-    const QImage image = paint(*first);
+    const QImage image = rendered(first);
     const QRgb atEdge = image.pixel(image.width() - 1, image.height() / 2);
-    QCOMPARE(atEdge, edge ? normal("button-secondary-border") : normal("button-secondary-background"));
+    QCOMPARE(atEdge,
+             edge ? colorOf("button-secondary-border").rgb() : colorOf("button-secondary-background").rgb());
 }
 
 void tst_KaDualIconButton::clicksAndTabOrder() {

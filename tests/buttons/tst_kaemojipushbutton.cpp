@@ -1,4 +1,4 @@
-#include "bzthememanager.h"
+#include "buttontestutils.h"
 #include "kaemojipushbutton.h"
 
 #include <QAccessible>
@@ -7,14 +7,9 @@
 #include <QSvgRenderer>
 #include <QTest>
 
-namespace {
+using namespace ButtonTest;
 
-QImage paint(QWidget& widget) {
-    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
+namespace {
 
 // The emoji alone, drawn straight from its file at `side` pixels.
 QImage reference(const QString& codePoint, int side) {
@@ -59,12 +54,12 @@ void tst_KaEmojiPushButton::paintsEmojiImage() {
     button.resize(button.sizeHint());
     QCOMPARE(button.QWidget::size(), QSize(28, 28));
     // Normal: a 16 px emoji centred in the 28 px circle.
-    const QImage image = paint(button);
+    const QImage image = rendered(&button);
     const QImage thumbsUp = reference(QStringLiteral("1f44d"), 16);
     QCOMPARE(mismatches(image, thumbsUp, QPoint(6, 6)), 0);
     // A different emoji does not match the same place.
     button.setCodePoint(QStringLiteral("1f525"));
-    QVERIFY(mismatches(paint(button), thumbsUp, QPoint(6, 6)) > 10);
+    QVERIFY(mismatches(rendered(&button), thumbsUp, QPoint(6, 6)) > 10);
 }
 
 void tst_KaEmojiPushButton::countShapesChip() {
@@ -109,15 +104,15 @@ void tst_KaEmojiPushButton::codePointNormalised() {
     QCOMPARE(spy.count(), 1);
     QVERIFY(!button.hasImage());
     button.resize(28, 28);
-    paint(button); // an emoji without an image paints an empty chip
+    rendered(&button); // an emoji without an image paints an empty chip
 }
 
 void tst_KaEmojiPushButton::disabledFadesImage() {
     KaEmojiPushButton button(QStringLiteral("2764"), 0);
     button.resize(button.sizeHint());
-    const QImage enabled = paint(button);
+    const QImage enabled = rendered(&button);
     button.setEnabled(false);
-    const QImage disabled = paint(button);
+    const QImage disabled = rendered(&button);
     const QImage heart = reference(QStringLiteral("2764"), 16);
     QCOMPARE(mismatches(enabled, heart, QPoint(6, 6)), 0);
     QVERIFY(mismatches(disabled, heart, QPoint(6, 6)) > 10);

@@ -1,9 +1,11 @@
-#include "bzthememanager.h"
+#include "buttontestutils.h"
 #include "kagifbutton.h"
 
 #include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
+
+using namespace ButtonTest;
 
 namespace {
 
@@ -13,16 +15,9 @@ QString threeFrames() {
     return QFINDTESTDATA("data/three-frames.gif");
 }
 
-QImage paint(QWidget& widget) {
-    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
-
 // The colour in the middle of the image box of an image-only button.
 QColor centre(KaGifButton& button) {
-    const QImage image = paint(button);
+    const QImage image = rendered(&button);
     return image.pixelColor(image.width() / 2, image.height() / 2);
 }
 
@@ -129,8 +124,8 @@ void tst_KaGifButton::shapeFollowsText() {
     QCOMPARE(button.minimumSize(), QSize(32, 32));
     QCOMPARE(button.maximumSize(), QSize(32, 32));
     button.resize(32, 32);
-    QVERIFY(reddish(paint(button).pixelColor(7, 16)));
-    QVERIFY(!reddish(paint(button).pixelColor(5, 16)));
+    QVERIFY(reddish(rendered(&button).pixelColor(7, 16)));
+    QVERIFY(!reddish(rendered(&button).pixelColor(5, 16)));
 
     button.setText(QStringLiteral("Celebrate"));
     QVERIFY(button.maximumWidth() > 32);
@@ -148,7 +143,7 @@ void tst_KaGifButton::unreadableFile() {
     QVERIFY(!button.hasImage());
     QCOMPARE(button.currentFrameNumber(), -1);
     button.resize(32, 32);
-    paint(button);
+    rendered(&button);
 }
 
 void tst_KaGifButton::accessibility() {

@@ -1,19 +1,14 @@
-#include "bzthememanager.h"
-#include "bzthemeutils.h"
+#include "buttontestutils.h"
 #include "kahyperlinkbutton.h"
 
 #include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
+#include <climits>
+
+using namespace ButtonTest;
 
 namespace {
-
-QImage paint(QWidget& widget) {
-    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
 
 BzColorSet linkText() {
     return BzThemeUtils::getColorSet(QStringLiteral("button-hyperlink-text"));
@@ -49,7 +44,6 @@ private Q_SLOTS:
     void linkColours();
     void underlinedOnHover();
     void alwaysUnderline();
-    void geometryBySize_data();
     void geometryBySize();
     void iconWidensButton();
     void accessibility();
@@ -66,7 +60,7 @@ void tst_KaHyperlinkButton::linkColours() {
 
     link.resize(link.sizeHint());
     // The face is invisible at rest and the text is painted in link colour.
-    const QImage image = paint(link);
+    const QImage image = rendered(&link);
     QCOMPARE(image.pixelColor(2, 2).alpha(), 0);
     bool linkColoured = false;
     for (int y = 0; y < image.height() && !linkColoured; ++y) {
@@ -87,13 +81,13 @@ void tst_KaHyperlinkButton::underlinedOnHover() {
     QVERIFY(!link->isUnderlined());
     link->resize(link->sizeHint());
     const int textWidth = link->fontMetrics().horizontalAdvance(link->text());
-    const QImage plain = paint(*link);
+    const QImage plain = rendered(link);
     QVERIFY(longestRunBelowCentre(plain, linkText().normal()) < textWidth / 2);
 
     QTest::mouseMove(link, link->rect().center());
     QTRY_VERIFY(link->isUnderlined());
     link->setAttribute(Qt::WA_UnderMouse, true);
-    const QImage hovered = paint(*link);
+    const QImage hovered = rendered(link);
     QVERIFY(longestRunBelowCentre(hovered, linkText().hovered()) >= textWidth * 9 / 10);
 
     QTest::mouseMove(&window, QPoint(5, 5));
@@ -117,26 +111,21 @@ void tst_KaHyperlinkButton::alwaysUnderline() {
     QVERIFY(!link.isUnderlined());
 }
 
-void tst_KaHyperlinkButton::geometryBySize_data() {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("pixelSize");
-    QTest::newRow("ExtraLarge") << int(KaButtonEnum::ExtraLarge) << 40 << 14;
-    QTest::newRow("Large") << int(KaButtonEnum::Large) << 32 << 14;
-    QTest::newRow("Normal") << int(KaButtonEnum::Normal) << 28 << 13;
-    QTest::newRow("Small") << int(KaButtonEnum::Small) << 28 << 13;
-    QTest::newRow("ExtraSmall") << int(KaButtonEnum::ExtraSmall) << 24 << 11;
-}
-
+// Fixed height; smaller sizes never get taller or larger text.
 void tst_KaHyperlinkButton::geometryBySize() {
-    QFETCH(int, size);
-    QFETCH(int, height);
-    QFETCH(int, pixelSize);
     KaHyperlinkButton link(QStringLiteral("Learn more"));
-    link.setSize(KaButtonEnum::Size(size));
-    QCOMPARE(link.minimumHeight(), height);
-    QCOMPARE(link.maximumHeight(), height);
-    QCOMPARE(link.font().pixelSize(), pixelSize);
+    int previousHeight = INT_MAX;
+    int previousPixels = INT_MAX;
+    for (int size = KaButtonEnum::ExtraLarge; size <= KaButtonEnum::ExtraSmall; ++size) {
+        link.setSize(KaButtonEnum::Size(size));
+        QCOMPARE(link.minimumHeight(), link.maximumHeight());
+        QVERIFY(link.maximumHeight() > link.fontMetrics().height());
+        QVERIFY(link.maximumHeight() <= previousHeight);
+        QVERIFY(link.font().pixelSize() <= previousPixels);
+        previousHeight = link.maximumHeight();
+        previousPixels = link.font().pixelSize();
+    }
+    QVERIFY(previousHeight < QWIDGETSIZE_MAX);
 }
 
 void tst_KaHyperlinkButton::iconWidensButton() {

@@ -1,8 +1,9 @@
-#include "bzthememanager.h"
-#include "kaconfig.h"
+#include "buttontestutils.h"
 #include "kaiconbutton.h"
+#include "kaiconbuttonconfig.h"
 
 #include <QAccessible>
+#include <QMetaEnum>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -10,11 +11,8 @@ class tst_KaIconButton : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
-    void cleanup();
     void squareBySize_data();
     void squareBySize();
-    void colourByTypeAndStyle_data();
-    void colourByTypeAndStyle();
     void checkedIsActive();
     void highContrastAddsBorder();
     void accessibleName();
@@ -24,58 +22,30 @@ void tst_KaIconButton::initTestCase() {
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
 }
 
-void tst_KaIconButton::cleanup() {
-    KaConfig::setIsHighContrast(false);
-}
-
 void tst_KaIconButton::squareBySize_data() {
     QTest::addColumn<int>("size");
-    QTest::addColumn<int>("side");
-    QTest::addColumn<int>("icon");
-    QTest::newRow("ExtraLarge") << 0 << 40 << 24;
-    QTest::newRow("Large") << 1 << 32 << 20;
-    QTest::newRow("Normal") << 2 << 28 << 16;
-    QTest::newRow("Small") << 3 << 24 << 16;
-    QTest::newRow("ExtraSmall") << 4 << 20 << 12;
-    QTest::newRow("ExtraExtraSmall") << 5 << 16 << 12;
-    QTest::newRow("ExtraExtraExtraSmall") << 6 << 12 << 8;
+    const QMetaEnum sizes = QMetaEnum::fromType<KaButtonEnum::Size>();
+    for (int i = 0; i < sizes.keyCount(); ++i)
+        QTest::newRow(sizes.key(i)) << sizes.value(i);
 }
 
+// A square of the configuration's side with the icon centred.
 void tst_KaIconButton::squareBySize() {
     QFETCH(int, size);
-    QFETCH(int, side);
-    QFETCH(int, icon);
+    KaIconButtonConfig expected;
+    expected.setSize(KaButtonEnum::Size(size));
+    KaIconButtonConfig::Geometry g;
+    expected.fillGeometry(g);
+    const int side = g.fixedHeight;
+    QVERIFY(side > 0);
     KaIconButton button(nullptr, KaIconButtonEnum::Settings, KaButtonEnum::Size(size));
     button.setLeftIcon(QStringLiteral(":/Resources/keyboard-bold.svg"));
     QCOMPARE(button.maximumSize(), QSize(side, side));
     QCOMPARE(button.minimumSize(), QSize(side, side));
-    QCOMPARE(button.svgIconSize(), QSize(icon, icon));
+    QCOMPARE(button.svgIconSize(), g.svgIconSize);
     QCOMPARE(button.property("focusBorderRadius").toReal(), side / 2.0);
     button.resize(side, side);
-    // Centred.
     QCOMPARE(button.svgIconRect().center(), QRect(0, 0, side, side).center());
-}
-
-void tst_KaIconButton::colourByTypeAndStyle_data() {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("style");
-    QTest::addColumn<QString>("icon");
-    QTest::newRow("Settings inactive") << 1 << 1 << "interactiveicon-primary-filled-icon-inactive";
-    QTest::newRow("Favorite active") << 2 << 0 << "interactiveicon-tertiary-filled-favorite-icon-active";
-    QTest::newRow("None") << 0 << 0 << "";
-}
-
-void tst_KaIconButton::colourByTypeAndStyle() {
-    QFETCH(int, type);
-    QFETCH(int, style);
-    QFETCH(QString, icon);
-    KaIconButton button;
-    button.setType(KaIconButtonEnum::Type(type));
-    button.setStyle(KaIconButtonEnum::Style(style));
-    QCOMPARE(button.getWCSS().textColorSet, icon);
-    QCOMPARE(button.getWCSS().backgroundColorSet,
-             icon.isEmpty() ? QString() : QStringLiteral("interactiveicon-container-background"));
-    QVERIFY(!button.getWCSS().hasAnyBorder());
 }
 
 void tst_KaIconButton::checkedIsActive() {
@@ -94,7 +64,7 @@ void tst_KaIconButton::checkedIsActive() {
 void tst_KaIconButton::highContrastAddsBorder() {
     KaIconButton button(nullptr, KaIconButtonEnum::Info, KaButtonEnum::Normal);
     QVERIFY(!button.getWCSS().hasAnyBorder());
-    KaConfig::setIsHighContrast(true);
+    const ButtonTest::HighContrastScope on(true);
     button.onThemeChanged();
     QCOMPARE(button.getWCSS().borderColorSet, QStringLiteral("button-primary-border"));
     QVERIFY(button.getWCSS().hasAnyBorder());

@@ -1,21 +1,13 @@
-#include "bzthememanager.h"
-#include "bzthemeutils.h"
+#include "buttontestutils.h"
 #include "kaoverlaybutton.h"
+#include "kaoverlaybuttonconfig.h"
 
 #include <QAccessible>
 #include <QGuiApplication>
+#include <QMetaEnum>
 #include <QTest>
 
-namespace {
-// What the button paints by itself, on a transparent image: grab() would
-// show the parent's background through the empty corners.
-QImage rendered(QWidget* widget) {
-    QImage image(widget->QWidget::size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
-} // namespace
+using namespace ButtonTest;
 
 class tst_KaOverlayButton : public QObject {
     Q_OBJECT
@@ -69,25 +61,25 @@ void tst_KaOverlayButton::arrowFollowsLayoutDirection() {
 
 void tst_KaOverlayButton::circleBySize_data() {
     QTest::addColumn<int>("size");
-    QTest::addColumn<int>("side");
-    QTest::addColumn<int>("icon");
-    QTest::newRow("Micro") << 0 << 20 << 12;
-    QTest::newRow("ExtraSmall") << 1 << 24 << 13;
-    QTest::newRow("Small") << 2 << 28 << 16;
-    QTest::newRow("Normal") << 3 << 28 << 16;
-    QTest::newRow("Large") << 4 << 32 << 16;
-    QTest::newRow("ExtraLarge") << 5 << 40 << 20;
+    const QMetaEnum sizes = QMetaEnum::fromType<KaOverlayButtonEnum::Size>();
+    for (int i = 0; i < sizes.keyCount(); ++i)
+        QTest::newRow(sizes.key(i)) << sizes.value(i);
 }
 
+// A circle of the configuration's side with the icon centred.
 void tst_KaOverlayButton::circleBySize() {
     QFETCH(int, size);
-    QFETCH(int, side);
-    QFETCH(int, icon);
+    KaOverlayButtonConfig expected;
+    expected.setSize(KaOverlayButtonEnum::Size(size));
+    KaOverlayButtonConfig::Geometry g;
+    expected.fillGeometry(g, Qt::LeftToRight);
+    const int side = g.fixedHeight;
+    QVERIFY(side > 0);
     KaOverlayButton button(nullptr, KaOverlayButtonEnum::CollapseAreaOverlay,
                            KaOverlayButtonEnum::Size(size));
     QCOMPARE(button.maximumSize(), QSize(side, side));
     QCOMPARE(button.minimumSize(), QSize(side, side));
-    QCOMPARE(button.svgIconSize(), QSize(icon, icon));
+    QCOMPARE(button.svgIconSize(), g.svgIconSize);
     QCOMPARE(button.property("focusBorderRadius").toReal(), side / 2.0);
     button.resize(side, side);
     QCOMPARE(button.svgIconRect().center(), QRect(0, 0, side, side).center());
@@ -106,14 +98,12 @@ void tst_KaOverlayButton::noneShowsNothing() {
 void tst_KaOverlayButton::paintsBorderAndFace() {
     QWidget window;
     KaOverlayButton button(&window, KaOverlayButtonEnum::ExpandAreaOverlay, KaOverlayButtonEnum::ExtraLarge);
-    window.setGeometry(300, 300, 60, 60);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(shown(window, QRect(300, 300, 60, 60)));
     QCOMPARE(button.getWCSS().borderColorSet, QStringLiteral("button-overlay-border"));
     const QImage image = rendered(&button);
     // Outside the circle nothing, inside the translucent face.
     QCOMPARE(image.pixelColor(2, 2).alpha(), 0);
-    const QColor face = BzThemeUtils::getColorSet("button-overlay-background").normal();
+    const QColor face = colorOf("button-overlay-background");
     QCOMPARE(image.pixelColor(20, 4).alpha(), face.alpha());
 }
 

@@ -1,23 +1,14 @@
+#include "buttontestutils.h"
 #include "bzfont.h"
-#include "bzthememanager.h"
-#include "bzthemeutils.h"
-#include "kaconfig.h"
 #include "kapillbutton.h"
-#include "karvexutils.h"
+#include "kapillbuttonconfig.h"
 
-#include <QSignalSpy>
+#include <QMetaEnum>
 #include <QTest>
 
-namespace {
+using namespace ButtonTest;
 
-// What the button paints by itself, on a transparent image: grab() would
-// show the parent's background through the empty corners.
-QImage rendered(QWidget* widget) {
-    QImage image(widget->QWidget::size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
+namespace {
 const char kIcon[] = ":/Resources/check-regular.svg";
 const char kAnchor[] = ":/Resources/arrow-down_8.svg";
 } // namespace
@@ -29,8 +20,6 @@ private Q_SLOTS:
     void cleanup();
     void geometryBySize_data();
     void geometryBySize();
-    void missingLeftIconNarrows_data();
-    void missingLeftIconNarrows();
     void styleSizeConstructor();
     void paintsPill();
     void highContrastOnThemeChange_data();
@@ -44,73 +33,48 @@ void tst_KaPillButton::initTestCase() {
 }
 
 void tst_KaPillButton::cleanup() {
-    KaConfig::setIsHighContrast(false);
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 void tst_KaPillButton::geometryBySize_data() {
     QTest::addColumn<int>("size");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("fontToken");
-    QTest::addColumn<int>("padding");
-    QTest::addColumn<int>("icon");
-    QTest::addColumn<int>("spacing");
-    QTest::newRow("ExtraLarge") << 0 << 40 << int(BzFont::ButtonLarge) << 16 << 20 << 6;
-    QTest::newRow("Large") << 1 << 32 << int(BzFont::ButtonLarge) << 12 << 16 << 6;
-    QTest::newRow("Normal") << 2 << 28 << int(BzFont::Button) << 10 << 16 << 4;
-    QTest::newRow("Small") << 3 << 28 << int(BzFont::Button) << 10 << 16 << 4;
-    QTest::newRow("ExtraSmall") << 4 << 24 << int(BzFont::Caption) << 8 << 16 << 4;
+    for (int size = KaButtonEnum::ExtraLarge; size <= KaButtonEnum::ExtraSmall; ++size)
+        QTest::newRow(QMetaEnum::fromType<KaButtonEnum::Size>().valueToKey(size)) << size;
 }
 
+// The button applies its configuration's record, and its width is made of
+// the paddings, the icon with its spacing and the text.
 void tst_KaPillButton::geometryBySize() {
     QFETCH(int, size);
-    QFETCH(int, height);
-    QFETCH(int, fontToken);
-    QFETCH(int, padding);
-    QFETCH(int, icon);
-    QFETCH(int, spacing);
-
     KaPillButton button(nullptr, KaButtonEnum::Primary, KaButtonEnum::Size(size));
     button.setText(QStringLiteral("Join"));
     button.setLeftIcon(QLatin1String(kIcon));
+    KaPillButtonConfig expected;
+    expected.setSize(KaButtonEnum::Size(size));
+    expected.setHasLeftIcon(true);
+    KaPillButtonConfig::Geometry g;
+    expected.fillGeometry(g);
 
-    QCOMPARE(button.minimumHeight(), height);
-    QCOMPARE(button.maximumHeight(), height);
-    QCOMPARE(int(button.fontToken()), fontToken);
-    QCOMPARE(button.font().pixelSize(), BzFont(fontToken).pixelSize());
-    QCOMPARE(button.svgIconSize(), QSize(icon, icon));
-    QCOMPARE(button.svgIconSpacing(), spacing);
-    QCOMPARE(button.property("focusBorderRadius").toReal(), height / 2.0);
+    QCOMPARE(button.minimumHeight(), g.fixedHeight);
+    QCOMPARE(button.maximumHeight(), g.fixedHeight);
+    QCOMPARE(int(button.fontToken()), g.fontToken);
+    QCOMPARE(button.font().pixelSize(), BzFont(g.fontToken).pixelSize());
+    QCOMPARE(button.svgIconSize(), g.svgIconSize);
+    QCOMPARE(button.svgIconSpacing(), g.svgIconSpacing);
+    QCOMPARE(button.property("focusBorderRadius").toReal(), g.fixedHeight / 2.0);
     QCOMPARE(button.borderRadius(), 0.0 + button.QWidget::height() / 2.0);
-    QVERIFY(button.styleSheet().contains(QStringLiteral("padding-left:%1px").arg(padding)));
+    QVERIFY(button.styleSheet().contains(QStringLiteral("padding-left:%1px").arg(g.paddingLeft)));
 
-    // Paddings, icon, spacing and text make up the width.
     const int text = button.fontMetrics().size(Qt::TextSingleLine, QStringLiteral("Join")).width();
-    QCOMPARE(button.sizeHint().width(), 2 * padding + icon + spacing + text);
-}
+    QCOMPARE(button.sizeHint().width(),
+             g.paddingLeft + g.paddingRight + g.svgIconSize.width() + g.svgIconSpacing + text);
 
-void tst_KaPillButton::missingLeftIconNarrows_data() {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("iconAndSpacing");
-    QTest::newRow("ExtraLarge") << 0 << 26;
-    QTest::newRow("Large") << 1 << 22;
-    QTest::newRow("ExtraSmall") << 4 << 20;
-}
-
-void tst_KaPillButton::missingLeftIconNarrows() {
-    QFETCH(int, size);
-    QFETCH(int, iconAndSpacing);
-    KaPillButton button(nullptr, KaButtonEnum::Secondary, KaButtonEnum::Size(size));
-    button.setText(QStringLiteral("Share"));
-    button.setLeftIcon(QLatin1String(kIcon));
-    const int withIcon = button.sizeHint().width();
-    QVERIFY(button.isSvgIconVisible());
-
+    // Without the icon the width shrinks by exactly the icon and its spacing.
     button.setLeftIcon(QString());
     QVERIFY(!button.isSvgIconVisible());
     QCOMPARE(button.svgIconSpacing(), 0);
-    QCOMPARE(withIcon - button.sizeHint().width(), iconAndSpacing);
+    QCOMPARE(button.sizeHint().width(), g.paddingLeft + g.paddingRight + text);
 }
 
 void tst_KaPillButton::styleSizeConstructor() {
@@ -131,12 +95,10 @@ void tst_KaPillButton::paintsPill() {
     QWidget window;
     KaPillButton button(&window, KaButtonEnum::Primary, KaButtonEnum::Large);
     button.setGeometry(0, 0, 120, 32);
-    window.setGeometry(300, 300, 140, 40);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(shown(window, QRect(300, 300, 140, 40)));
 
     const QImage image = rendered(&button);
-    const QColor face = BzThemeUtils::getColorSet("button-primary-background").normal();
+    const QColor face = colorOf("button-primary-background");
     QCOMPARE(image.pixelColor(60, 16), face);
     // Half-height radius: the ends are round, the corners empty.
     QCOMPARE(image.pixelColor(1, 1).alpha(), 0);
@@ -166,9 +128,8 @@ void tst_KaPillButton::highContrastOnThemeChange() {
     KaPillButton button(nullptr, KaButtonEnum::Style(style), KaButtonEnum::Large);
     button.setCheckable(true);
     button.setChecked(checked);
-    KaConfig::setIsHighContrast(true);
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("highContrast"), BzThemeManager::DataOnly);
-    KarvexUtils::updateSolvaneThemes();
+    const HighContrastScope on(true);
+    switchTheme("highContrast");
     QTRY_COMPARE(button.getWCSS().backgroundColorSet, background);
     QCOMPARE(button.getWCSS().borderColorSet, border);
     QCOMPARE(button.getWCSS().hasAnyBorder(), !border.isEmpty());
@@ -178,22 +139,15 @@ void tst_KaPillButton::themeSwitchRecoloursFace() {
     QWidget window;
     KaPillButton button(&window, KaButtonEnum::Secondary, KaButtonEnum::Large);
     button.setGeometry(0, 0, 120, 32);
-    window.setGeometry(300, 300, 140, 40);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(shown(window, QRect(300, 300, 140, 40)));
 
-    const auto face = [&] {
-        return rendered(&button).pixelColor(60, 16);
-    };
-    QCOMPARE(face(), BzThemeUtils::getColorSet("button-secondary-background", BzThemeUtils::Light).normal());
-    const QColor dark = BzThemeUtils::getColorSet("button-secondary-background", BzThemeUtils::Dark).normal();
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"), BzThemeManager::DataOnly);
-    KarvexUtils::updateSolvaneThemes();
-    QTRY_COMPARE(face(), dark);
+    QCOMPARE(pixelAt(&button, {60, 16}), colorOf("button-secondary-background", BzThemeUtils::Light));
+    const QColor dark = colorOf("button-secondary-background", BzThemeUtils::Dark);
+    QVERIFY(dark != colorOf("button-secondary-background", BzThemeUtils::Light));
+    switchTheme("dark");
+    QTRY_COMPARE(pixelAt(&button, {60, 16}), dark);
     // The border follows as well.
-    const QColor darkBorder =
-        BzThemeUtils::getColorSet("button-secondary-border", BzThemeUtils::Dark).normal();
-    QCOMPARE(rendered(&button).pixelColor(60, 0), darkBorder);
+    QCOMPARE(pixelAt(&button, {60, 0}), colorOf("button-secondary-border", BzThemeUtils::Dark));
 }
 
 void tst_KaPillButton::rightToLeftMirrorsIcons() {

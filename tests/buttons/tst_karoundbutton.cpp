@@ -1,20 +1,12 @@
-#include "bzthememanager.h"
-#include "bzthemeutils.h"
+#include "buttontestutils.h"
 #include "karoundbutton.h"
+#include "karoundbuttonconfig.h"
 
 #include <QAccessible>
+#include <QMetaEnum>
 #include <QTest>
 
-namespace {
-// What the button paints by itself, on a transparent image: grab() would
-// show the parent's background through the empty corners.
-QImage rendered(QWidget* widget) {
-    QImage image(widget->QWidget::size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    widget->render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
-} // namespace
+using namespace ButtonTest;
 
 class tst_KaRoundButton : public QObject {
     Q_OBJECT
@@ -33,21 +25,20 @@ void tst_KaRoundButton::initTestCase() {
 
 void tst_KaRoundButton::circleBySize_data() {
     QTest::addColumn<int>("size");
-    QTest::addColumn<int>("diameter");
-    QTest::addColumn<int>("icon");
-    QTest::newRow("ExtraLarge") << 0 << 64 << 32;
-    QTest::newRow("Large") << 1 << 52 << 28;
-    QTest::newRow("Normal") << 2 << 40 << 20;
-    QTest::newRow("Small") << 3 << 32 << 16;
-    QTest::newRow("ExtraSmall") << 4 << 28 << 16;
-    QTest::newRow("ExtraExtraSmall") << 5 << 24 << 13;
-    QTest::newRow("ExtraExtraExtraSmall") << 6 << 16 << 8;
+    const QMetaEnum sizes = QMetaEnum::fromType<KaButtonEnum::Size>();
+    for (int i = 0; i < sizes.keyCount(); ++i)
+        QTest::newRow(sizes.key(i)) << sizes.value(i);
 }
 
+// A circle of the configuration's diameter, whatever the size.
 void tst_KaRoundButton::circleBySize() {
     QFETCH(int, size);
-    QFETCH(int, diameter);
-    QFETCH(int, icon);
+    KaRoundButtonConfig expected;
+    expected.setSize(KaButtonEnum::Size(size));
+    KaRoundButtonConfig::Geometry g;
+    expected.fillGeometry(g);
+    const int diameter = g.fixedHeight;
+    QVERIFY(diameter > 0);
     QWidget window;
     KaRoundButton button(&window, KaButtonEnum::Secondary, KaButtonEnum::Size(size));
     button.setLeftIcon(QStringLiteral(":/Resources/phone-filled.svg"));
@@ -57,7 +48,7 @@ void tst_KaRoundButton::circleBySize() {
     QCOMPARE(button.maximumSize(), QSize(diameter, diameter));
     QCOMPARE(button.QWidget::size(), QSize(diameter, diameter));
     QCOMPARE(button.sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(button.svgIconSize(), QSize(icon, icon));
+    QCOMPARE(button.svgIconSize(), g.svgIconSize);
     QCOMPARE(button.property("focusBorderRadius").toReal(), diameter / 2.0);
     QCOMPARE(button.borderRadius(), diameter / 2.0);
 
@@ -71,15 +62,13 @@ void tst_KaRoundButton::paintsCircleWithCentredIcon() {
     QWidget window;
     KaRoundButton button(&window, KaButtonEnum::Primary, KaButtonEnum::ExtraLarge);
     button.setLeftIcon(QStringLiteral(":/Resources/phone-filled.svg"));
-    window.setGeometry(300, 300, 80, 80);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(shown(window, QRect(300, 300, 80, 80)));
 
     const QRect icon = button.svgIconRect();
     QCOMPARE(icon, QRect(16, 16, 32, 32));
     const QImage image = rendered(&button);
-    const QColor face = BzThemeUtils::getColorSet("button-primary-background").normal();
-    const QColor glyph = BzThemeUtils::getColorSet("button-primary-text").normal();
+    const QColor face = colorOf("button-primary-background");
+    const QColor glyph = colorOf("button-primary-text");
     QCOMPARE(image.pixelColor(4, 4).alpha(), 0);
     QCOMPARE(image.pixelColor(32, 3), face);
     QCOMPARE(image.pixelColor(3, 32), face);
