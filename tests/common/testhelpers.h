@@ -95,6 +95,7 @@ inline QVariant otherValue(const QMetaProperty& p, const QVariant& current) {
 // Designer rely on both. `values` supplies values the types cannot (names of
 // icons and colour sets); an invalid value there leaves the property out.
 inline void checkNotifiesOnce(QObject& object, const QMetaObject& cls, const QVariantMap& values = {}) {
+    int checked = 0;
     for (int i = cls.propertyOffset(); i < cls.propertyCount(); ++i) {
         const QMetaProperty p = cls.property(i);
         const QString name = QString::fromLatin1(p.name());
@@ -109,7 +110,9 @@ inline void checkNotifiesOnce(QObject& object, const QMetaObject& cls, const QVa
         QVERIFY2(spy.count() == 1 && p.read(&object) == value, p.name());
         QVERIFY(p.write(&object, value));
         QVERIFY2(spy.count() == 1, p.name());
+        ++checked;
     }
+    QVERIFY2(checked > 0, cls.className());
 }
 
 } // namespace BzTest
