@@ -10,7 +10,7 @@
 // refuses names that would collide or give an invalid identifier.
 // KaColorTokenUtils turns a token back into its name.
 namespace Karvox {
-enum Token {
+enum Token : int {
     alertbadge_announcement_background = 0,
     alertbadge_announcement_text = 1,
     alertbadge_blocked_background = 2,
