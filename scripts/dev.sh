@@ -15,7 +15,8 @@ packages=(cmake ninja-build g++ pkg-config clang-format
           qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-declarative-dev
           qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
           clang libclang-rt-14-dev ccache
-          fontconfig fonts-dejavu-core xauth xvfb)
+          fontconfig fonts-dejavu-core xauth xvfb
+          dbus at-spi2-core python3-pyatspi)
 
 install_missing() {
     local missing=()

@@ -97,6 +97,8 @@ KaLabelBase* ButtonsPage::addLabel(const char* source, QWidget* parent, bool hea
         heading
             ? GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Subtitle, parent)
             : GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::BodySmall, parent);
+    if (heading)
+        GalleryUtils::markAsHeading(label);
     label->setText(translated(source));
     m_labels.emplace_back(label, source);
     return label;

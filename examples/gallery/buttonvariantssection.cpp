@@ -88,6 +88,7 @@ ButtonVariantsSection::~ButtonVariantsSection() {
 KaLabelBase* ButtonVariantsSection::addHeading(QVBoxLayout* layout) {
     KaLabelBase* heading =
         GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::ButtonLarge);
+    GalleryUtils::markAsHeading(heading);
     m_headings.append(heading);
     layout->addSpacing(8);
     layout->addWidget(heading);

@@ -207,6 +207,7 @@ FocusPage::FocusPage(QWidget* parent)
         item->setSizeHint(QSize(0, 34));
     }
     m_list->setCurrentRow(0);
+    GalleryUtils::keepCurrentItemWithFocus(m_list);
     // Inside the item, which leaves no room around it.
     m_list->setProperty("hasCustomRect", true);
     m_list->setProperty("focusMargin", 0);
@@ -254,6 +255,7 @@ FocusPage::FocusPage(QWidget* parent)
 void FocusPage::addRow(QWidget* sample) {
     Row row{sample, GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Subtitle),
             GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::BodySmall)};
+    GalleryUtils::markAsHeading(row.title);
     row.note->setWordWrap(true);
 
     auto* texts = new QVBoxLayout;
@@ -308,6 +310,7 @@ void FocusPage::retranslateUi() {
     static_cast<FocusSample*>(m_rows[2].sample)->setText(tr("OK"));
     static_cast<FocusSample*>(m_rows[3].sample)->setText(tr("Search"));
     static_cast<FocusSample*>(m_rows[4].sample)->setText(tr("Tab"));
+    m_list->setAccessibleName(tr("Conversations"));
     for (int i = 0; i < m_list->count(); ++i)
         m_list->item(i)->setText(tr("Conversation %1").arg(i + 1));
     for (int i = 0; i < m_scrolledButtons.size(); ++i)

@@ -81,6 +81,7 @@ FoundationPage::FoundationPage(QWidget* parent)
 
 void FoundationPage::addColorSetSection() {
     m_colorSetsHeading = GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Title);
+    GalleryUtils::markAsHeading(m_colorSetsHeading);
     contentLayout()->addWidget(m_colorSetsHeading);
 
     QGridLayout* grid = createGrid();
@@ -117,6 +118,7 @@ void FoundationPage::addFontSection() {
     m_fontsHeading = GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Title);
     m_fontsNote = GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::BodySmall);
     m_fontsNote->setWordWrap(true);
+    GalleryUtils::markAsHeading(m_fontsHeading);
     contentLayout()->addWidget(m_fontsHeading);
     contentLayout()->addWidget(m_fontsNote);
 

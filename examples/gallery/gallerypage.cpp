@@ -11,12 +11,15 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 GalleryPage::GalleryPage(QWidget* parent)
     : QWidget(parent)
     , m_title(GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Headline))
     , m_description(GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::Body))
     , m_scrollArea(new QScrollArea) {
     m_description->setWordWrap(true);
+    GalleryUtils::markAsHeading(m_title);
 
     // Transparent content: the window's root paints the background.
     auto* content = new BzWidget;
@@ -44,6 +47,13 @@ GalleryPage::GalleryPage(QWidget* parent)
 void GalleryPage::setTitleSource(const char* title) {
     m_titleSource = title;
     m_title->setText(title ? QCoreApplication::translate("GalleryPages", title) : QString());
+    // The content area is a Tab stop: screen readers name it after the page.
+    m_scrollArea->setAccessibleName(m_title->text());
+}
+
+int GalleryPage::overflowHeight() const {
+    const QWidget* content = m_scrollArea->widget();
+    return std::max(0, content->height() - m_scrollArea->viewport()->height());
 }
 
 void GalleryPage::setDescription(const QString& text) {

@@ -7,6 +7,10 @@
 #include <bzthemeutils.h>
 #include <kalabelbase.h>
 
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -25,6 +29,68 @@ QScrollBar::handle:horizontal { min-width: 24px; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; background: none; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
 )";
+const char kHeadingProperty[] = "galleryHeading";
+
+// A label read as a heading: named after its text.
+class HeadingAccessible : public QAccessibleWidget {
+public:
+    explicit HeadingAccessible(QLabel* label)
+        : QAccessibleWidget(label, QAccessible::Heading) {}
+
+    QString text(QAccessible::Text t) const override {
+        if (t == QAccessible::Name && widget()->accessibleName().isEmpty())
+            return static_cast<QLabel*>(widget())->text();
+        return QAccessibleWidget::text(t);
+    }
+};
+
+// See keepCurrentItemWithFocus(): parks the current item while the view is
+// not focused.
+class CurrentItemKeeper : public QObject {
+public:
+    explicit CurrentItemKeeper(QAbstractItemView* view)
+        : QObject(view)
+        , m_view(view) {
+        view->installEventFilter(this);
+        connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+                [this](const QModelIndex& current) {
+                    if (current.isValid() && !m_view->hasFocus())
+                        park();
+                });
+        if (!view->hasFocus())
+            park();
+    }
+
+    // Before the view sees focus arrive, so keys move from the parked item.
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn && m_parked.isValid()) {
+            const QModelIndex index = m_parked;
+            m_parked = QPersistentModelIndex();
+            m_view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        } else if (event->type() == QEvent::FocusOut) {
+            park();
+        }
+        return false;
+    }
+
+private:
+    void park() {
+        const QModelIndex current = m_view->currentIndex();
+        if (!current.isValid())
+            return;
+        m_parked = current;
+        m_view->selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
+    }
+
+    QAbstractItemView* m_view;
+    QPersistentModelIndex m_parked;
+};
+
+QAccessibleInterface* headingFactory(const QString&, QObject* object) {
+    auto* label = qobject_cast<QLabel*>(object);
+    return label && label->property(kHeadingProperty).toBool() ? new HeadingAccessible(label) : nullptr;
+}
+
 } // namespace
 
 namespace GalleryUtils {
@@ -61,6 +127,19 @@ void alignLabelsToLayoutDirection(QWidget* root) {
         const Qt::Alignment vertical = label->alignment() & Qt::AlignVertical_Mask;
         label->setAlignment(side | Qt::AlignAbsolute | vertical);
     }
+}
+
+void markAsHeading(QWidget* label) {
+    static const bool installed = [] {
+        QAccessible::installFactory(headingFactory);
+        return true;
+    }();
+    Q_UNUSED(installed)
+    label->setProperty(kHeadingProperty, true);
+}
+
+void keepCurrentItemWithFocus(QAbstractItemView* view) {
+    new CurrentItemKeeper(view);
 }
 
 void styleScrollArea(QScrollArea* area) {

@@ -186,6 +186,8 @@ GalleryWindow::GalleryWindow(QWidget* parent)
 
     retranslateUi();
     m_pageList->setCurrentRow(0);
+    // The selection marks the page on show.
+    GalleryUtils::keepCurrentItemWithFocus(m_pageList);
 }
 
 GalleryWindow::~GalleryWindow() = default;
@@ -247,8 +249,13 @@ QStringList GalleryWindow::pageIds() const {
 }
 
 QString GalleryWindow::currentPageId() const {
-    const int row = m_pageList->currentRow();
-    return row < 0 ? QString() : GalleryPageRegistry::entries()[size_t(row)].id;
+    const int index = m_stack->currentIndex();
+    return index < 0 ? QString() : GalleryPageRegistry::entries()[size_t(index)].id;
+}
+
+GalleryPage* GalleryWindow::currentPage() const {
+    const int index = m_stack->currentIndex();
+    return index < 0 ? nullptr : m_pages[size_t(index)];
 }
 
 bool GalleryWindow::showPage(const QString& id) {
@@ -368,6 +375,10 @@ void GalleryWindow::setRightToLeft(bool on) {
     m_rtlCheck->setChecked(on);
 }
 
+bool GalleryWindow::isRightToLeft() const {
+    return m_rtlCheck->isChecked();
+}
+
 void GalleryWindow::applyRightToLeft(bool on) {
     QGuiApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight);
 }
@@ -402,6 +413,10 @@ void GalleryWindow::setTextScalePercent(int percent) {
     m_textScale->setCurrentIndex(index);
 }
 
+int GalleryWindow::textScalePercent() const {
+    return m_textScale->currentData().toInt();
+}
+
 void GalleryWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         retranslateUi();
@@ -417,6 +432,10 @@ void GalleryWindow::retranslateUi() {
     m_rtlCheck->setText(tr("Right to left"));
     m_pseudoCheck->setText(tr("Pseudo-translation"));
     m_textScaleLabel->setText(tr("Text size"));
+    // Combo boxes are otherwise read by their current value.
+    m_themeCombo->setAccessibleName(m_themeLabel->text());
+    m_textScale->setAccessibleName(m_textScaleLabel->text());
+    m_pageList->setAccessibleName(tr("Pages"));
     for (int i = 0; i < m_textScale->count(); ++i)
         m_textScale->setItemText(i, tr("%1 %").arg(m_textScale->itemData(i).toInt()));
     fillThemeCombo();

@@ -25,6 +25,8 @@ public:
 
     QStringList pageIds() const;
     QString currentPageId() const;
+    // The page on show; null before the first one is created.
+    GalleryPage* currentPage() const;
     // Returns false for an unknown id.
     bool showPage(const QString& id);
 
@@ -34,8 +36,11 @@ public:
     // status bar shows what was wrong and the theme stays as it was.
     bool loadThemeFromFile(const QString& path);
     void setRightToLeft(bool on);
+    bool isRightToLeft() const;
     void setPseudoTranslation(bool on);
+    bool isPseudoTranslation() const { return m_translator != nullptr; }
     void setTextScalePercent(int percent);
+    int textScalePercent() const;
 
 protected:
     void changeEvent(QEvent* event) override;

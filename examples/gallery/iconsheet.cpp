@@ -27,7 +27,7 @@ constexpr int kMaxCellWidth = 200;
 } // namespace
 
 IconSheet::IconSheet(QWidget* parent)
-    : QWidget(parent) {
+    : PaintedItemView(parent) {
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -41,6 +41,7 @@ void IconSheet::setImages(const QStringList& paths) {
     for (const QString& path : paths)
         m_names << QFileInfo(path).completeBaseName();
     relayout();
+    itemsChanged();
 }
 
 void IconSheet::setTintColorSets(const QStringList& names) {
@@ -131,7 +132,7 @@ QRect IconSheet::cellRect(int index) const {
     return QStyle::visualRect(layoutDirection(), rect(), logical);
 }
 
-int IconSheet::indexAt(const QPoint& pos) const {
+int IconSheet::itemAt(const QPoint& pos) const {
     for (int i = 0; i < m_paths.size(); ++i) {
         if (cellRect(i).contains(pos))
             return i;
@@ -159,7 +160,7 @@ QPixmap IconSheet::plainPixmap(const QString& path, int size, qreal devicePixelR
 bool IconSheet::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
         auto* help = static_cast<QHelpEvent*>(event);
-        const int index = indexAt(help->pos());
+        const int index = itemAt(help->pos());
         if (index >= 0)
             QToolTip::showText(help->globalPos(), m_names.at(index), this, cellRect(index));
         else
@@ -168,7 +169,7 @@ bool IconSheet::event(QEvent* event) {
     }
     if (event->type() == QEvent::LayoutDirectionChange)
         update();
-    return QWidget::event(event);
+    return PaintedItemView::event(event);
 }
 
 void IconSheet::paintEvent(QPaintEvent* event) {

@@ -1,16 +1,18 @@
 #pragma once
 
+#include "painteditemview.h"
+
 #include <QColor>
 #include <QHash>
 #include <QList>
 #include <QPixmap>
 #include <QStringList>
-#include <QWidget>
 
 // A wrapping grid of SVG images with their names, painted in one widget.
 // With tint colour sets, every image is drawn once per set and size as a
 // monochrome icon in that set's colour; without, in its own colours (emoji).
-class IconSheet : public QWidget {
+// Screen readers get the images as a list of their names.
+class IconSheet : public PaintedItemView {
     Q_OBJECT
 public:
     explicit IconSheet(QWidget* parent = nullptr);
@@ -24,6 +26,11 @@ public:
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+    int itemCount() const override { return count(); }
+    QString itemName(int index) const override { return m_names.value(index); }
+    QRect itemRect(int index) const override { return cellRect(index); }
+    int itemAt(const QPoint& pos) const override;
 
 public Q_SLOTS:
     // Queued by the theme refresh: picks up the new tint and text colours.
@@ -41,7 +48,6 @@ private:
     int columnsFor(int width) const;
     // In visual coordinates: mirrored for right-to-left.
     QRect cellRect(int index) const;
-    int indexAt(const QPoint& pos) const;
     QPixmap plainPixmap(const QString& path, int size, qreal devicePixelRatio) const;
     void relayout();
 

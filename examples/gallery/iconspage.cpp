@@ -40,6 +40,8 @@ IconsPage::IconsPage(QWidget* parent)
     m_emojis->setImageSizes({32});
     m_emojis->setImages(svgFilesIn(QStringLiteral(":/emojis")));
 
+    GalleryUtils::markAsHeading(m_iconsHeading);
+    GalleryUtils::markAsHeading(m_emojisHeading);
     m_iconsNote->setWordWrap(true);
     m_emojisNote->setWordWrap(true);
     contentLayout()->addWidget(m_iconsHeading);
@@ -60,6 +62,8 @@ void IconsPage::retranslateUi() {
     m_iconsNote->setText(tr("At 16 and 32 px, tinted with %1 and with %2.")
                              .arg(QLatin1String(kIconTint), QLatin1String(kTextTint)));
     m_emojisHeading->setText(tr("Emoji (%1)").arg(m_emojis->count()));
+    m_icons->setAccessibleName(tr("Icons"));
+    m_emojis->setAccessibleName(tr("Emoji"));
     m_emojisNote->setText(m_emojis->count() > 0 ? tr("At 32 px, in their own colours.")
                                                 : tr("No emoji images are bundled yet."));
 }

@@ -1,4 +1,5 @@
 #include "focuspage.h"
+#include "gallerypageregistry.h"
 #include "gallerywindow.h"
 #include "screenshotrunner.h"
 
@@ -32,6 +33,9 @@ int main(int argc, char* argv[]) {
         QCoreApplication::translate("main",
                                     "Write screenshots of every page in every theme to <dir> and exit."),
         QStringLiteral("dir"));
+    const QCommandLineOption listOption(
+        QStringLiteral("list-pages"),
+        QCoreApplication::translate("main", "Print every page's id and title, tab-separated, and exit."));
     const QCommandLineOption themeOption(QStringLiteral("theme"),
                                          QCoreApplication::translate("main", "Start in the theme <name>."),
                                          QStringLiteral("name"));
@@ -49,11 +53,18 @@ int main(int argc, char* argv[]) {
         QStringLiteral("load-theme"),
         QCoreApplication::translate("main", "Load the theme file <file> and start in that theme."),
         QStringLiteral("file"));
-    parser.addOptions(
-        {screenshotOption, themeOption, pageOption, rtlOption, pseudoOption, scaleOption, loadOption});
+    parser.addOptions({screenshotOption, listOption, themeOption, pageOption, rtlOption, pseudoOption,
+                       scaleOption, loadOption});
     parser.process(app);
 
     QTextStream err(stderr);
+    if (parser.isSet(listOption)) {
+        QTextStream out(stdout);
+        for (const auto& entry : GalleryPageRegistry::entries())
+            out << entry.id << '\t' << GalleryPageRegistry::title(entry) << '\n';
+        return 0;
+    }
+
     GalleryWindow window;
     window.resize(1100, 760);
 
@@ -65,19 +76,6 @@ int main(int argc, char* argv[]) {
             return 2;
         }
         window.setTextScalePercent(percent);
-    }
-
-    if (parser.isSet(screenshotOption)) {
-        // Laid out and painted like a shown window, but never mapped.
-        window.setAttribute(Qt::WA_DontShowOnScreen);
-        window.setFixedSize(1100, 760);
-        window.show();
-        const QString directory = parser.value(screenshotOption);
-        const int written = ScreenshotRunner(&window).run(directory);
-        if (written < 0)
-            return 1;
-        QTextStream(stdout) << QDir(directory).absolutePath() << ": " << written << " screenshots\n";
-        return 0;
     }
 
     if (parser.isSet(themeOption)) {
@@ -105,6 +103,25 @@ int main(int argc, char* argv[]) {
         window.setRightToLeft(true);
     if (parser.isSet(pseudoOption))
         window.setPseudoTranslation(true);
+
+    if (parser.isSet(screenshotOption)) {
+        // Laid out and painted like a shown window, but never mapped. A
+        // theme or page from the command line narrows the run to it.
+        window.setAttribute(Qt::WA_DontShowOnScreen);
+        window.setFixedSize(1100, 760);
+        window.show();
+        ScreenshotRunner runner(&window);
+        if (parser.isSet(pageOption))
+            runner.setPages({window.currentPageId()});
+        if (parser.isSet(themeOption) || parser.isSet(loadOption))
+            runner.setThemes({BzThemeManager::instance()->currentThemeName()});
+        const QString directory = parser.value(screenshotOption);
+        const int written = runner.run(directory);
+        if (written < 0)
+            return 1;
+        QTextStream(stdout) << QDir(directory).absolutePath() << ": " << written << " screenshots\n";
+        return 0;
+    }
 
     window.show();
     return app.exec();

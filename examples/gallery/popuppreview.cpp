@@ -25,7 +25,7 @@ QSize bodySize(KaPopupEnum::Alignment side, bool cover) {
 } // namespace
 
 PopupPreview::PopupPreview(QWidget* parent)
-    : QWidget(parent) {
+    : PaintedItemView(parent) {
     using A = KaPopupEnum::Alignment;
     for (bool arrow : {true, false}) {
         for (A side : {KaPopupEnum::Top, KaPopupEnum::Bottom, KaPopupEnum::Left, KaPopupEnum::Right})
@@ -87,6 +87,18 @@ QRect PopupPreview::cellRect(int index) const {
     const int left = (width() - kColumns * kCellWidth) / 2;
     return QRect(std::max(0, left) + (index % kColumns) * kCellWidth, (index / kColumns) * kCellHeight,
                  kCellWidth, kCellHeight);
+}
+
+QString PopupPreview::itemName(int index) const {
+    return index >= 0 && index < itemCount() ? m_cells[size_t(index)].text : QString();
+}
+
+int PopupPreview::itemAt(const QPoint& pos) const {
+    for (int i = 0; i < itemCount(); ++i) {
+        if (cellRect(i).contains(pos))
+            return i;
+    }
+    return -1;
 }
 
 void PopupPreview::paintEvent(QPaintEvent* /*event*/) {

@@ -86,6 +86,7 @@ PopupsPage::PopupsPage(QWidget* parent)
 
 KaLabelBase* PopupsPage::heading() {
     KaLabelBase* label = GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Title);
+    GalleryUtils::markAsHeading(label);
     m_headings << label;
     contentLayout()->addWidget(label);
     return label;
@@ -217,6 +218,7 @@ void PopupsPage::retranslateUi() {
     for (int i = 0; i < m_popoverButtons.size(); ++i)
         m_popoverButtons[i]->setText(tr(kPopoverButtons[i].text));
     m_anchor->setText(tr("Anchor"));
+    m_preview->setAccessibleName(tr("Popover previews"));
     m_preview->retranslateUi();
     m_toolTipButton->setText(tr("Hover for a tooltip"));
     m_toolTipButton->setToolTip(tr("Tooltips take the popover colours of the theme."));

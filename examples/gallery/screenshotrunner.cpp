@@ -1,5 +1,6 @@
 #include "screenshotrunner.h"
 
+#include "gallerypage.h"
 #include "gallerywindow.h"
 
 #include <QCoreApplication>
@@ -9,6 +10,13 @@
 
 namespace {
 const char* const kThemes[] = {"light", "dark", "highContrast"};
+// The stress variant: long mirrored text at a large size.
+constexpr int kStressScale = 150;
+
+QTextStream& errors() {
+    static QTextStream stream(stderr);
+    return stream;
+}
 } // namespace
 
 ScreenshotRunner::ScreenshotRunner(GalleryWindow* window)
@@ -23,11 +31,37 @@ void ScreenshotRunner::settle() {
     }
 }
 
+QString ScreenshotRunner::variantSuffix() const {
+    QString suffix;
+    if (m_window->isRightToLeft())
+        suffix += QLatin1String("-rtl");
+    if (m_window->isPseudoTranslation())
+        suffix += QLatin1String("-pseudo");
+    if (m_window->textScalePercent() != 100)
+        suffix += QLatin1Char('-') + QString::number(m_window->textScalePercent());
+    return suffix;
+}
+
 bool ScreenshotRunner::capture(const QString& filePath) {
     settle();
+    // Grow the window until the page no longer scrolls, so the file shows
+    // all of it; the scroll bar going away can change the height once more.
+    const QSize normal = m_window->size();
+    for (int round = 0; round < 3; ++round) {
+        const GalleryPage* page = m_window->currentPage();
+        const int overflow = page ? page->overflowHeight() : 0;
+        if (overflow <= 0)
+            break;
+        m_window->setFixedSize(normal.width(), m_window->height() + overflow);
+        settle();
+    }
     const QPixmap shot = m_window->grab();
+    if (m_window->size() != normal) {
+        m_window->setFixedSize(normal);
+        settle();
+    }
     if (shot.isNull() || !shot.save(filePath, "PNG")) {
-        QTextStream(stderr) << "karvex-gallery: could not write " << filePath << '\n';
+        errors() << "karvex-gallery: could not write " << filePath << Qt::endl;
         return false;
     }
     return true;
@@ -36,34 +70,57 @@ bool ScreenshotRunner::capture(const QString& filePath) {
 int ScreenshotRunner::run(const QString& directory) {
     QDir dir(directory);
     if (!dir.mkpath(QStringLiteral("."))) {
-        QTextStream(stderr) << "karvex-gallery: could not create " << directory << '\n';
+        errors() << "karvex-gallery: could not create " << directory << Qt::endl;
         return -1;
+    }
+    const QStringList pages = m_pages.isEmpty() ? m_window->pageIds() : m_pages;
+    QStringList themes = m_themes;
+    if (themes.isEmpty()) {
+        for (const char* theme : kThemes)
+            themes << QLatin1String(theme);
     }
 
     int written = 0;
-    const QStringList pages = m_window->pageIds();
-    for (const char* theme : kThemes) {
-        const QString themeName = QLatin1String(theme);
-        if (!m_window->applyTheme(themeName)) {
-            QTextStream(stderr) << "karvex-gallery: unknown theme " << themeName << '\n';
+    const QString suffix = variantSuffix();
+    for (const QString& theme : std::as_const(themes)) {
+        if (!m_window->applyTheme(theme)) {
+            errors() << "karvex-gallery: unknown theme " << theme << Qt::endl;
             return -1;
         }
         for (const QString& page : pages) {
-            m_window->showPage(page);
-            if (!capture(dir.filePath(page + QLatin1Char('-') + themeName + QLatin1String(".png"))))
+            if (!m_window->showPage(page)) {
+                errors() << "karvex-gallery: unknown page " << page << Qt::endl;
+                return -1;
+            }
+            if (!capture(dir.filePath(page + QLatin1Char('-') + theme + suffix + QLatin1String(".png"))))
                 return -1;
             ++written;
         }
     }
 
-    m_window->applyTheme(QStringLiteral("light"));
-    m_window->showPage(pages.value(0));
+    // Every page once more in the first theme with everything that moves
+    // and stretches a layout, unless the run above already was that.
+    const bool rtl = m_window->isRightToLeft();
+    const bool pseudo = m_window->isPseudoTranslation();
+    const int scale = m_window->textScalePercent();
+    if (rtl && pseudo && scale == kStressScale)
+        return written;
+    m_window->applyTheme(themes.constFirst());
     m_window->setRightToLeft(true);
     m_window->setPseudoTranslation(true);
-    const bool ok = capture(dir.filePath(pages.value(0) + QLatin1String("-light-rtl-pseudo.png")));
-    m_window->setPseudoTranslation(false);
-    m_window->setRightToLeft(false);
-    if (!ok)
-        return -1;
-    return written + 1;
+    m_window->setTextScalePercent(kStressScale);
+    const QString stressSuffix = variantSuffix();
+    bool ok = true;
+    for (const QString& page : pages) {
+        m_window->showPage(page);
+        ok = capture(dir.filePath(page + QLatin1Char('-') + themes.constFirst() + stressSuffix +
+                                  QLatin1String(".png")));
+        if (!ok)
+            break;
+        ++written;
+    }
+    m_window->setTextScalePercent(scale);
+    m_window->setPseudoTranslation(pseudo);
+    m_window->setRightToLeft(rtl);
+    return ok ? written : -1;
 }

@@ -4,6 +4,9 @@
 #include <bzsvgrenderer.h>
 #include <bzthemeutils.h>
 
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QPainter>
 #include <QStyleOptionComboBox>
@@ -24,10 +27,52 @@ QComboBox QAbstractItemView { background: $(menulistbackground-primary-backgroun
                               selection-color: $(listitem-textprimary.hovered); }
 )";
 constexpr int kArrowSize = 12;
+
+// Named by its accessible name (the label beside it) like any other
+// control; Qt's own interface on Linux names a combo box after its current
+// value. The value is the value text, and the selected row of the list.
+class ThemedComboBoxAccessible : public QAccessibleWidget {
+public:
+    explicit ThemedComboBoxAccessible(QComboBox* box)
+        : QAccessibleWidget(box, QAccessible::ComboBox) {}
+
+    QComboBox* comboBox() const { return static_cast<QComboBox*>(widget()); }
+
+    int childCount() const override { return 1; }
+    QAccessibleInterface* child(int index) const override {
+        return index == 0 ? QAccessible::queryAccessibleInterface(comboBox()->view()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return child && child->object() == comboBox()->view() ? 0 : -1;
+    }
+    QString text(QAccessible::Text t) const override {
+        return t == QAccessible::Value ? comboBox()->currentText() : QAccessibleWidget::text(t);
+    }
+    QStringList actionNames() const override { return {showMenuAction(), pressAction()}; }
+    void doAction(const QString& name) override {
+        if (name != showMenuAction() && name != pressAction())
+            return;
+        if (comboBox()->view()->isVisible())
+            comboBox()->hidePopup();
+        else
+            comboBox()->showPopup();
+    }
+};
+
+QAccessibleInterface* accessibleFactory(const QString&, QObject* object) {
+    if (auto* box = qobject_cast<ThemedComboBox*>(object))
+        return new ThemedComboBoxAccessible(box);
+    return nullptr;
+}
 } // namespace
 
 ThemedComboBox::ThemedComboBox(QWidget* parent)
     : QComboBox(parent) {
+    static const bool factoryInstalled = [] {
+        QAccessible::installFactory(accessibleFactory);
+        return true;
+    }();
+    Q_UNUSED(factoryInstalled)
     applyTemplate();
     onThemeChanged();
 }

@@ -31,6 +31,7 @@ void TokensPage::updateSummary() {
 }
 
 void TokensPage::retranslateUi() {
+    m_view->setAccessibleName(tr("Colour tokens"));
     setDescription(tr("Components ask for their colours by token; a theme gives every token a colour for "
                       "each interaction state."));
     updateSummary();

@@ -37,7 +37,7 @@ int fixedWidth() {
 } // namespace
 
 TokenSwatchView::TokenSwatchView(QWidget* parent)
-    : QWidget(parent) {
+    : PaintedItemView(parent) {
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -144,7 +144,7 @@ QRect TokenSwatchView::cellRect(int index) const {
     return QStyle::visualRect(layoutDirection(), rect(), logical);
 }
 
-int TokenSwatchView::indexAt(const QPoint& pos) const {
+int TokenSwatchView::itemAt(const QPoint& pos) const {
     const int columns = columnsFor(width());
     const int rows = rowsFor(columns);
     const int row = pos.y() / rowHeight();
@@ -158,30 +158,40 @@ int TokenSwatchView::indexAt(const QPoint& pos) const {
     return -1;
 }
 
+QString TokenSwatchView::itemName(int index) const {
+    return index >= 0 && index < tokenCount() ? m_swatches[size_t(index)].name : QString();
+}
+
+QString TokenSwatchView::itemDescription(int index) const {
+    if (index < 0 || index >= tokenCount())
+        return QString();
+    const Swatch& swatch = m_swatches[size_t(index)];
+    if (!swatch.defined)
+        return tr("Not defined by this theme");
+    QStringList states;
+    for (int s = 0; s < BzColorSet::StateCount; ++s) {
+        states << BzColorSet::stateName(BzColorSet::State(s)) + QLatin1String(": ") +
+                      BzTheme::formatColor(swatch.colors[size_t(s)]);
+    }
+    return states.join(QLatin1String("; "));
+}
+
 bool TokenSwatchView::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
         auto* help = static_cast<QHelpEvent*>(event);
-        const int index = indexAt(help->pos());
+        const int index = itemAt(help->pos());
         if (index < 0) {
             QToolTip::hideText();
             return true;
         }
-        const Swatch& swatch = m_swatches[index];
-        QString text = QStringLiteral("%1 (%2)").arg(swatch.name).arg(index);
-        if (!swatch.defined) {
-            text += QLatin1Char('\n') + tr("Not defined by this theme");
-        } else {
-            for (int s = 0; s < BzColorSet::StateCount; ++s) {
-                text += QLatin1Char('\n') + BzColorSet::stateName(BzColorSet::State(s)) +
-                        QLatin1String(": ") + BzTheme::formatColor(swatch.colors[s]);
-            }
-        }
+        const QString text = QStringLiteral("%1 (%2)\n").arg(itemName(index)).arg(index) +
+                             itemDescription(index).replace(QLatin1String("; "), QLatin1String("\n"));
         QToolTip::showText(help->globalPos(), text, this, cellRect(index));
         return true;
     }
     if (event->type() == QEvent::LayoutDirectionChange)
         update();
-    return QWidget::event(event);
+    return PaintedItemView::event(event);
 }
 
 void TokenSwatchView::paintSwatch(QPainter* painter, const QRect& box, const QColor& color,

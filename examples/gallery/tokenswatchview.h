@@ -1,18 +1,20 @@
 #pragma once
 
+#include "painteditemview.h"
+
 #include <bzcolorset.h>
 
 #include <QBrush>
 #include <QColor>
-#include <QWidget>
 
 #include <array>
 #include <vector>
 
 // Every colour token of the library as a swatch: the normal colour, the
 // token's name and its six state colours. All swatches are painted by this
-// one widget from colours resolved once per theme change.
-class TokenSwatchView : public QWidget {
+// one widget from colours resolved once per theme change. Screen readers get
+// a list of the token names with their colours as descriptions.
+class TokenSwatchView : public PaintedItemView {
     Q_OBJECT
 public:
     explicit TokenSwatchView(QWidget* parent = nullptr);
@@ -25,6 +27,13 @@ public:
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+    int itemCount() const override { return tokenCount(); }
+    QString itemName(int index) const override;
+    // The state colours, or that the theme lacks the token.
+    QString itemDescription(int index) const override;
+    QRect itemRect(int index) const override { return cellRect(index); }
+    int itemAt(const QPoint& pos) const override;
 
 public Q_SLOTS:
     // Queued by the theme refresh: resolves and caches every token's colours.
@@ -53,7 +62,6 @@ private:
     int rowsFor(int columns) const;
     // In visual coordinates: mirrored for right-to-left.
     QRect cellRect(int index) const;
-    int indexAt(const QPoint& pos) const;
     void paintSwatch(QPainter* painter, const QRect& box, const QColor& color, bool defined) const;
 
     std::vector<Swatch> m_swatches;

@@ -1,6 +1,8 @@
 #include "ikabutton.h"
 
 #include "bzthemeutils.h"
+#include "kadualcombobutton.h"
+#include "kadualiconbutton.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -13,14 +15,30 @@ namespace {
 
 const char kFocusRadiusProperty[] = "focusBorderRadius";
 
-// Qt reports a checkable push button as a check box. These buttons stay
-// push buttons for assistive technology and report the checked state.
+// The menu cell of a dual button opens the dual button's menu.
+bool opensParentMenu(const IKaButton* b) {
+    if (const auto* combo = qobject_cast<const KaDualComboButton*>(b->parentWidget()))
+        return combo->menu() && combo->iconCell() == b;
+    if (const auto* dual = qobject_cast<const KaDualIconButton*>(b->parentWidget()))
+        return dual->menu() && dual->secondCell() == b;
+    return false;
+}
+
+// A push button that reports its checkable and checked states and, with a
+// menu, that it opens one.
 class IKaButtonAccessible : public QAccessibleWidget {
 public:
     explicit IKaButtonAccessible(IKaButton* button)
         : QAccessibleWidget(button, QAccessible::Button) {}
 
     IKaButton* button() const { return static_cast<IKaButton*>(widget()); }
+
+    // Qt's Linux bridge drops the checkable state, so only the role can tell
+    // a screen reader that an unchecked toggle is one; Qt gives checkable
+    // push buttons the same role.
+    QAccessible::Role role() const override {
+        return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
+    }
 
     QAccessible::State state() const override {
         QAccessible::State st = QAccessibleWidget::state();
@@ -30,7 +48,7 @@ public:
             st.checked = b->isChecked();
         }
         st.pressed = b->isDown();
-        if (!b->actions().isEmpty())
+        if (!b->actions().isEmpty() || opensParentMenu(b))
             st.hasPopup = true;
         return st;
     }
