@@ -51,9 +51,10 @@ void GalleryPage::setTitleSource(const char* title) {
     m_scrollArea->setAccessibleName(m_title->text());
 }
 
-int GalleryPage::overflowHeight() const {
-    const QWidget* content = m_scrollArea->widget();
-    return std::max(0, content->height() - m_scrollArea->viewport()->height());
+QSize GalleryPage::overflow() const {
+    const QSize content = m_scrollArea->widget()->size();
+    const QSize shown = m_scrollArea->viewport()->size();
+    return QSize(std::max(0, content.width() - shown.width()), std::max(0, content.height() - shown.height()));
 }
 
 void GalleryPage::setDescription(const QString& text) {

@@ -16,9 +16,9 @@ public:
 
     // The registry's title source text ("GalleryPages" context).
     void setTitleSource(const char* title);
-    // How much taller the content is than the area showing it; 0 when it
-    // fits without scrolling.
-    int overflowHeight() const;
+    // How much wider and taller the content is than the area showing it;
+    // empty when it fits without scrolling.
+    QSize overflow() const;
 
 protected:
     QVBoxLayout* contentLayout() const { return m_contentLayout; }

@@ -45,14 +45,14 @@ QString ScreenshotRunner::variantSuffix() const {
 bool ScreenshotRunner::capture(const QString& filePath) {
     settle();
     // Grow the window until the page no longer scrolls, so the file shows
-    // all of it; the scroll bar going away can change the height once more.
+    // all of it; a scroll bar going away can change the layout once more.
     const QSize normal = m_window->size();
     for (int round = 0; round < 3; ++round) {
         const GalleryPage* page = m_window->currentPage();
-        const int overflow = page ? page->overflowHeight() : 0;
-        if (overflow <= 0)
+        const QSize overflow = page ? page->overflow() : QSize();
+        if (overflow.width() <= 0 && overflow.height() <= 0)
             break;
-        m_window->setFixedSize(normal.width(), m_window->height() + overflow);
+        m_window->setFixedSize(m_window->size() + overflow);
         settle();
     }
     const QPixmap shot = m_window->grab();

@@ -1,7 +1,6 @@
 #include "kamoreinfobutton.h"
 
 #include "kapopover.h"
-#include "karvexutils.h"
 #include "kawidgetdata.h"
 
 namespace {
@@ -85,7 +84,9 @@ void KaMoreInfoButton::showPopup() {
     if (QWidget* text = m_popover->contentWidget())
         text->setObjectName(QLatin1String(PopupTextObjectName));
     connect(m_popover, &QObject::destroyed, this, &KaMoreInfoButton::popupHidden);
-    KarvexUtils::announce(this, m_infoText);
+    // The popover announces the text as it opens: a second announcement
+    // from the button would read it twice, and Qt's Linux bridge drops
+    // value changes from a button.
     Q_EMIT popupShown();
 }
 

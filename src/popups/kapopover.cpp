@@ -7,6 +7,8 @@
 #include <bzthemeutils.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -34,6 +36,52 @@ QPoint outwards(KaPopupEnum::Alignment side, int distance) {
     }
 }
 
+// Its text doubles as its value: Qt's Linux bridge passes value changes,
+// and so announcements, on only from objects that have a value.
+class KaPopoverAccessible : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit KaPopoverAccessible(KaPopover* popover)
+        : QAccessibleWidget(popover) {}
+
+    const KaPopover* popover() const { return static_cast<const KaPopover*>(object()); }
+
+    QAccessible::Role role() const override {
+        return popover()->data().m_shouldTakeFocus ? QAccessible::Dialog : QAccessible::ToolTip;
+    }
+
+    QString text(QAccessible::Text t) const override {
+        const QString own = QAccessibleWidget::text(t);
+        if (!own.isEmpty() || (t != QAccessible::Name && t != QAccessible::Description))
+            return own;
+        const QString header = popover()->data().m_headerText;
+        if (t == QAccessible::Name)
+            return header.isEmpty() ? popover()->announcementText() : header;
+        return header.isEmpty() ? QString() : popover()->announcementText();
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+    QVariant currentValue() const override { return popover()->announcementText(); }
+    void setCurrentValue(const QVariant&) override {}
+    QVariant maximumValue() const override { return QVariant(); }
+    QVariant minimumValue() const override { return QVariant(); }
+    QVariant minimumStepSize() const override { return QVariant(); }
+};
+
+QAccessibleInterface* accessibleFactory(const QString&, QObject* object) {
+    if (auto* popover = qobject_cast<KaPopover*>(object))
+        return new KaPopoverAccessible(popover);
+    return nullptr;
+}
+
+void sendAccessibleEvent(QObject* object, QAccessible::Event type) {
+    QAccessibleEvent event(object, type);
+    QAccessible::updateAccessibility(&event);
+}
+
 QPoint clampedInto(const QRect& area, const QPoint& p, const QSize& size) {
     if (!area.isValid())
         return p;
@@ -48,6 +96,11 @@ KaPopover::KaPopover(const KaControlHandle& anchor, QWidget* parent, const KaWid
     , m_data(data)
     , m_anchor(anchor)
     , m_layout(new QVBoxLayout(this)) {
+    static const bool factoryInstalled = [] {
+        QAccessible::installFactory(accessibleFactory);
+        return true;
+    }();
+    Q_UNUSED(factoryInstalled)
     setObjectName(QStringLiteral("KaPopover"));
     m_layout->setSpacing(8);
     m_dismissTimer.setInterval(DismissTickMs);
@@ -470,18 +523,28 @@ void KaPopover::showEvent(QShowEvent* event) {
         raise();
         activateWindow();
     }
+    sendAccessibleEvent(this,
+                        m_data.m_shouldTakeFocus ? QAccessible::DialogStart : QAccessible::PopupMenuStart);
+    QWidget* focusTarget = nullptr;
     if (m_data.m_shouldTakeFocus) {
         // Content that takes Tab focus (a form, a button) gets it; read-only
         // content leaves it on the popover, where Escape still works.
-        QWidget* target = m_content && (m_content->focusPolicy() & Qt::TabFocus) ? m_content.data() : this;
-        target->setFocus(Qt::PopupFocusReason);
+        focusTarget = m_content && (m_content->focusPolicy() & Qt::TabFocus) ? m_content.data() : this;
+        focusTarget->setFocus(Qt::PopupFocusReason);
+        // A window that is not active yet takes focus without telling
+        // assistive technology; tell it where focus went.
+        if (QApplication::focusWidget() != focusTarget)
+            sendAccessibleEvent(focusTarget, QAccessible::Focus);
     }
+    // Focused content is read by the screen reader itself; anything else
+    // would go unread.
     const QString text = announcementText();
-    if (!text.isEmpty())
+    if (!text.isEmpty() && (!focusTarget || focusTarget == this))
         KarvexUtils::announce(this, text);
 }
 
 void KaPopover::hideEvent(QHideEvent* event) {
+    sendAccessibleEvent(this, m_data.m_shouldTakeFocus ? QAccessible::DialogEnd : QAccessible::PopupMenuEnd);
     m_dismissTimer.stop();
     watchAnchor(false);
     if (m_data.m_focusSourceOnClose) {

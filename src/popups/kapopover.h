@@ -36,7 +36,10 @@ class QVBoxLayout;
 //  - shouldHaveTransparentBackground off gives a plain opaque rectangle
 //    without shadow and arrow; setReverseColor paints the popover and its
 //    labels in the alternate (light/dark counterpart) theme.
-// Opening is announced to assistive technology.
+// Screen readers see a dialog (or, when it leaves focus where it was, a tool
+// tip) named after its header or text. Opening sends a dialog or popup start
+// event, a focus event for whatever took focus and, unless focus went into
+// the content (which the screen reader then reads), announces the text.
 class KARVEX_EXPORT KaPopover : public QWidget {
     Q_OBJECT
     Q_PROPERTY(KaWidgetData::ArrowPostion arrowPosition READ arrowPosition WRITE setArrowPosition NOTIFY
@@ -104,6 +107,10 @@ public:
     // Closes the popover (and so deletes one made by the factories).
     void dismiss();
 
+    // What opening announces: the header and the text content (or the
+    // content's accessible name), comma-separated.
+    QString announcementText() const;
+
 public Q_SLOTS:
     void onThemeChanged();
 
@@ -131,7 +138,6 @@ private:
     bool isInside(const QObject* object) const;
     bool isOnAnchor(const QObject* object) const;
     bool isAnchorOrItsWindow(const QObject* object) const;
-    QString announcementText() const;
 
     KaWidgetData m_data;
     KaControlHandle m_anchor;

@@ -5,6 +5,7 @@
 #include <bzthememanager.h>
 #include <drawutils.h>
 
+#include <QCache>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmapCache>
@@ -13,6 +14,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <memory>
 
 namespace {
 
@@ -20,6 +23,67 @@ using Alignment = KaPopupEnum::Alignment;
 
 // The shadow colour set is a scrim; a popup's shadow wants much less of it.
 constexpr qreal kShadowOpacity = 0.35;
+
+// Everything a bubble's shadow depends on (the radius and offset are
+// constants), so that a repaint finds it without building a key string.
+struct ShadowKey {
+    QSize size;
+    int side = 0;
+    bool arrow = false;
+    bool fixedArrow = false;
+    int along64 = 0; // arrow tip along its edge, in 1/64 px
+    qreal dpr = 1;
+    QRgb color = 0;
+
+    bool operator==(const ShadowKey& o) const {
+        return size == o.size && side == o.side && arrow == o.arrow && fixedArrow == o.fixedArrow &&
+               along64 == o.along64 && dpr == o.dpr && color == o.color;
+    }
+};
+
+size_t qHash(const ShadowKey& k, size_t seed = 0) {
+    return qHashMulti(seed, k.size.width(), k.size.height(), k.side, k.arrow, k.fixedArrow, k.along64, k.dpr,
+                      k.color);
+}
+
+struct ShadowImage {
+    QImage image;
+    QPointF origin;
+};
+
+QCache<ShadowKey, ShadowImage>& shadowCache() {
+    // Cost in KiB; a handful of popup-sized shadows.
+    static QCache<ShadowKey, ShadowImage> cache(8 * 1024);
+    return cache;
+}
+
+// Draws the blurred shadow of `path`, rendered once per key.
+void drawShadow(QPainter* painter, const QPainterPath& path, const ShadowKey& key, const QColor& color,
+                int radius) {
+    QCache<ShadowKey, ShadowImage>& cache = shadowCache();
+    if (const ShadowImage* cached = cache.object(key)) {
+        painter->drawImage(cached->origin, cached->image);
+        return;
+    }
+    const QRectF area = path.boundingRect().adjusted(-radius, -radius, radius, radius);
+    const QSize pixels(int(std::ceil(area.width() * key.dpr)), int(std::ceil(area.height() * key.dpr)));
+    if (pixels.isEmpty())
+        return;
+    auto entry = std::make_unique<ShadowImage>();
+    entry->image = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
+    entry->image.setDevicePixelRatio(key.dpr);
+    entry->image.fill(0);
+    entry->origin = area.topLeft();
+    {
+        QPainter p(&entry->image);
+        p.translate(-area.topLeft());
+        DrawUtils::drawSoftShadow(&p, path, color, radius);
+    }
+    painter->drawImage(entry->origin, entry->image);
+    const qsizetype cost = std::max<qsizetype>(1, entry->image.sizeInBytes() / 1024);
+    if (cost <= cache.maxCost())
+        cache.insert(key, entry.release(), cost);
+}
 
 bool isVertical(Alignment alignment) {
     // Popups above or below the anchor carry the arrow on a horizontal edge.
@@ -319,7 +383,17 @@ void paintBubble(QPainter* painter, const Bubble& bubble) {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, true);
     painter->setRenderHint(QPainter::SmoothPixmapTransform, true);
-    DrawUtils::drawSoftShadow(painter, path.translated(0, ShadowOffsetY), bubble.colors.shadow, ShadowRadius);
+    if (bubble.colors.shadow.isValid() && bubble.colors.shadow.alpha() > 0) {
+        ShadowKey key;
+        key.size = bubble.size;
+        key.side = int(side);
+        key.arrow = bubble.arrow;
+        key.fixedArrow = bubble.fixedArrowSize;
+        key.along64 = qRound(along * 64);
+        key.dpr = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        key.color = bubble.colors.shadow.rgba();
+        drawShadow(painter, path.translated(0, ShadowOffsetY), key, bubble.colors.shadow, ShadowRadius);
+    }
     painter->fillPath(path, bubble.colors.background);
 
     const int coverH = std::min(coverHeight(bubble.cover, body.width()), body.height());

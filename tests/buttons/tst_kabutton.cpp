@@ -248,24 +248,31 @@ void tst_KaButton::firstMenuStays() {
 void tst_KaButton::accessibility_data() {
     QTest::addColumn<bool>("checkable");
     QTest::addColumn<bool>("checked");
-    QTest::newRow("plain") << false << false;
-    QTest::newRow("checkable, unchecked") << true << false;
-    QTest::newRow("checkable, checked") << true << true;
+    QTest::addColumn<bool>("menu");
+    QTest::newRow("plain") << false << false << false;
+    QTest::newRow("checkable, unchecked") << true << false << false;
+    QTest::newRow("checkable, checked") << true << true << false;
+    QTest::newRow("with a menu") << false << false << true;
 }
 
 void tst_KaButton::accessibility() {
     QFETCH(bool, checkable);
     QFETCH(bool, checked);
+    QFETCH(bool, menu);
     QWidget window;
     TestButton button(&window);
     button.setText(QStringLiteral("&Send invite"));
     button.setCheckable(checkable);
     button.setChecked(checked);
+    if (menu)
+        button.setMenu(new QMenu(&button));
     window.show();
 
     QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&button);
     QVERIFY(iface);
-    QCOMPARE(iface->role(), QAccessible::Button);
+    // Linux screen readers learn of a toggle only from the role.
+    QCOMPARE(iface->role(), checkable ? QAccessible::CheckBox : QAccessible::Button);
+    QCOMPARE(bool(iface->state().hasPopup), menu);
     QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Send invite"));
     QCOMPARE(bool(iface->state().checkable), checkable);
     QCOMPARE(bool(iface->state().checked), checked);

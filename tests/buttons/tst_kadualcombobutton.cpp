@@ -269,8 +269,16 @@ void tst_KaDualComboButton::accessibility() {
 
     button->setCheckable(true);
     QVERIFY(label->state().checkable);
+    QCOMPARE(label->role(), QAccessible::CheckBox);
     button->setChecked(true);
     QVERIFY(label->state().checked);
+
+    // Only the cell that opens the menu says so.
+    QVERIFY(!icon->state().hasPopup);
+    QMenu menu;
+    button->setMenu(&menu);
+    QVERIFY(icon->state().hasPopup);
+    QVERIFY(!label->state().hasPopup);
 }
 
 QTEST_MAIN(tst_KaDualComboButton)
