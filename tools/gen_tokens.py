@@ -97,7 +97,7 @@ HEADER = """\
 // refuses names that would collide or give an invalid identifier.
 // KaColorTokenUtils turns a token back into its name.
 namespace Karvox {
-enum Token {
+enum Token : int {
 %(members)s
 };
 
@@ -129,7 +129,15 @@ std::string tokenToStdString(Karvox::Token token) {
 }
 
 QString tokenToString(Karvox::Token token) {
-    return QString::fromStdString(tokenToStdString(token));
+    // Components ask on every refresh: each name becomes a QString once.
+    static QString names[Karvox::TokenCount];
+    const int index = static_cast<int>(token);
+    if (index < 0 || index >= Karvox::TokenCount)
+        return QString();
+    QString& name = names[index];
+    if (name.isNull())
+        name = QLatin1String(kTokenNames[index]);
+    return name;
 }
 
 } // namespace KaColorTokenUtils

@@ -6,7 +6,6 @@
 #include <QMetaObject>
 #include <QPaintEngine>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QStringList>
 #include <QStyle>
 
@@ -25,74 +24,6 @@ struct Item {
 
 int gapBetween(Part a, Part b, const BzButtonLayoutInput& in) {
     return (a == Part::Anchor || b == Part::Anchor) ? in.anchorSpacing : in.iconSpacing;
-}
-
-// "12px", "12" (Qt reads a bare number as pixels); anything else is 0.
-int lengthOf(const QString& value) {
-    QString v = value.trimmed();
-    if (v.endsWith(QLatin1String("px"), Qt::CaseInsensitive))
-        v.chop(2);
-    bool ok = false;
-    const double number = v.toDouble(&ok);
-    return ok ? qRound(number) : 0;
-}
-
-bool selectorMatches(QString selector, const QMetaObject* metaObject, const QString& objectName) {
-    selector = selector.trimmed();
-    if (selector.isEmpty() || selector.contains(QLatin1Char(':')) || selector.contains(QLatin1Char('[')))
-        return false;
-    // Only the last compound selector names the widget itself.
-    const qsizetype split =
-        std::max(selector.lastIndexOf(QLatin1Char(' ')), selector.lastIndexOf(QLatin1Char('>')));
-    if (split >= 0)
-        selector = selector.mid(split + 1);
-    QString type = selector.section(QLatin1Char('#'), 0, 0);
-    const QString id = selector.section(QLatin1Char('#'), 1);
-    if (!id.isEmpty() && id != objectName)
-        return false;
-    if (type.isEmpty() || type == QLatin1String("*"))
-        return true;
-    const bool exact = type.startsWith(QLatin1Char('.'));
-    if (exact)
-        type.remove(0, 1);
-    for (const QMetaObject* mo = metaObject; mo; mo = mo->superClass()) {
-        if (type == QLatin1String(mo->className()))
-            return true;
-        if (exact)
-            return false;
-    }
-    return false;
-}
-
-void applyDeclarations(const QString& body, QMargins* padding) {
-    for (const QString& declaration : body.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-        const qsizetype colon = declaration.indexOf(QLatin1Char(':'));
-        if (colon < 0)
-            continue;
-        const QString property = declaration.left(colon).trimmed().toLower();
-        const QString value = declaration.mid(colon + 1);
-        if (property == QLatin1String("padding")) {
-            QList<int> v;
-            for (const QString& part : value.split(QLatin1Char(' '), Qt::SkipEmptyParts))
-                v.append(lengthOf(part));
-            if (v.isEmpty())
-                continue;
-            // CSS shorthand: top [right [bottom [left]]].
-            const int top = v.at(0);
-            const int right = v.size() > 1 ? v.at(1) : top;
-            const int bottom = v.size() > 2 ? v.at(2) : top;
-            const int left = v.size() > 3 ? v.at(3) : right;
-            *padding = QMargins(left, top, right, bottom);
-        } else if (property == QLatin1String("padding-left")) {
-            padding->setLeft(lengthOf(value));
-        } else if (property == QLatin1String("padding-right")) {
-            padding->setRight(lengthOf(value));
-        } else if (property == QLatin1String("padding-top")) {
-            padding->setTop(lengthOf(value));
-        } else if (property == QLatin1String("padding-bottom")) {
-            padding->setBottom(lengthOf(value));
-        }
-    }
 }
 
 } // namespace
@@ -257,39 +188,6 @@ QSize contentSize(const BzButtonLayoutInput& in) {
     width += in.padding.left() + in.padding.right() + in.textLeftPadding + in.textRightPadding;
     height += in.padding.top() + in.padding.bottom();
     return QSize(width, height);
-}
-
-QMargins sheetPadding(const QString& styleSheet, const QMetaObject* metaObject, const QString& objectName) {
-    QMargins padding;
-    if (!styleSheet.contains(QLatin1String("padding"), Qt::CaseInsensitive))
-        return padding;
-    static const QRegularExpression comments(QStringLiteral("/\\*.*?\\*/"),
-                                             QRegularExpression::DotMatchesEverythingOption);
-    QString sheet = styleSheet;
-    sheet.remove(comments);
-    if (!sheet.contains(QLatin1Char('{'))) {
-        applyDeclarations(sheet, &padding);
-        return padding;
-    }
-    qsizetype pos = 0;
-    while (pos < sheet.size()) {
-        const qsizetype open = sheet.indexOf(QLatin1Char('{'), pos);
-        if (open < 0)
-            break;
-        const qsizetype close = sheet.indexOf(QLatin1Char('}'), open);
-        const QString selectors = sheet.mid(pos, open - pos);
-        const QString body = sheet.mid(open + 1, (close < 0 ? sheet.size() : close) - open - 1);
-        for (const QString& selector : selectors.split(QLatin1Char(','))) {
-            if (selectorMatches(selector, metaObject, objectName)) {
-                applyDeclarations(body, &padding);
-                break;
-            }
-        }
-        if (close < 0)
-            break;
-        pos = close + 1;
-    }
-    return padding;
 }
 
 qreal paintRatio(const QPainter* painter) {

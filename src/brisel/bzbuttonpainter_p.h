@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bzenum.h"
+#include "bzpushbutton.h"
 
 #include <QColor>
 #include <QMargins>
@@ -11,13 +12,12 @@
 
 #include <functional>
 
-class QMetaObject;
 class QPainter;
 
 // Geometry of a button's content: optional main icon, text and optional
 // anchor icon. Everything is placed left-to-right first and mirrored at the
 // end, so "left" below always means the leading side.
-struct BzButtonLayoutInput {
+struct BzButtonLayoutInput : BzButtonDecorations {
     QRect rect;
     // Style-sheet padding and the button's own text paddings.
     QMargins padding;
@@ -28,18 +28,11 @@ struct BzButtonLayoutInput {
     // Natural size of the text; an empty width means no text.
     QSize text;
 
-    QSize icon; // empty: no main icon
-    QPoint iconTopLeftPadding;
-    QPoint iconBottomRightPadding;
-    BzEnum::Alignment iconAlignment = BzEnum::AlignLeft;
-    int iconSpacing = 0;
-
-    QSize anchor; // empty: no anchor icon
-    int anchorSpacing = 0;
-    int anchorPadding = 0;
-    bool anchorLeading = false;
-    bool anchorFollowsText = true;
-    QPoint anchorOffset;
+    bool operator==(const BzButtonLayoutInput& o) const {
+        return BzButtonDecorations::operator==(o) && rect == o.rect && padding == o.padding &&
+               textLeftPadding == o.textLeftPadding && textRightPadding == o.textRightPadding &&
+               align == o.align && direction == o.direction && text == o.text;
+    }
 };
 
 struct BzButtonLayoutResult {
@@ -57,12 +50,6 @@ namespace BzButtonPainter {
 BzButtonLayoutResult layout(const BzButtonLayoutInput& in, const std::function<int(int)>& fit);
 // The smallest size showing the whole content (text of `in.text`).
 QSize contentSize(const BzButtonLayoutInput& in);
-
-// Padding the widget's own style sheet gives it: declarations outside any
-// block, or in blocks whose selector names one of the widget's classes
-// (without pseudo-states). Qt's engine would mirror it in right-to-left, so
-// left is the leading side here too.
-QMargins sheetPadding(const QString& styleSheet, const QMetaObject* metaObject, const QString& objectName);
 
 // The pixel ratio of what the painter really paints on: during
 // QWidget::render() into a pixmap, painter->device() is still the widget.

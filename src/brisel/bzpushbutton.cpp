@@ -2,6 +2,7 @@
 
 #include "bzbuttonpainter_p.h"
 #include "bzscaledfont.h"
+#include "bzsheetreader_p.h"
 #include "bzthememanager.h"
 #include "bzthemeutils.h"
 #include "bzwidgettheme_p.h"
@@ -9,7 +10,6 @@
 #include <QAbstractTextDocumentLayout>
 #include <QEvent>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QStaticText>
 #include <QStyleOptionButton>
 #include <QStyleOptionFocusRect>
@@ -17,7 +17,6 @@
 
 namespace {
 
-const char kRecordHeader[] = "/*bz-css";
 const char kFocusRadiusProperty[] = "focusBorderRadius";
 // Room above and below the content in sizeHint(); configurations set a fixed
 // height anyway.
@@ -31,6 +30,14 @@ int nonNegative(int value, const char* what) {
 }
 
 } // namespace
+
+bool BzButtonDecorations::operator==(const BzButtonDecorations& o) const {
+    return icon == o.icon && iconTopLeftPadding == o.iconTopLeftPadding &&
+           iconBottomRightPadding == o.iconBottomRightPadding && iconAlignment == o.iconAlignment &&
+           iconSpacing == o.iconSpacing && anchor == o.anchor && anchorSpacing == o.anchorSpacing &&
+           anchorPadding == o.anchorPadding && anchorLeading == o.anchorLeading &&
+           anchorFollowsText == o.anchorFollowsText && anchorOffset == o.anchorOffset;
+}
 
 BzPushButton::BzPushButton(QWidget* parent)
     : QPushButton(parent)
@@ -49,60 +56,38 @@ BzPushButton::~BzPushButton() = default;
 void BzPushButton::init() {
     // Hover changes the face colour, so enter and leave must repaint.
     setAttribute(Qt::WA_Hover);
-    // Without a record the face is a pill.
-    m_theme->data.borderRadius = -1;
+    // Without a record the face is a pill, and a free-form template's frame
+    // is painted as it declares.
+    m_theme->setDefaultRadius(-1);
+    m_theme->setAdoptsTemplateFrame(true);
     applyFont();
     updateFocusRadius();
 }
 
 void BzPushButton::setCSS(const QString& css) {
-    m_theme->css = css;
-    applyTheme(true);
+    themeApplied(m_theme->setText(this, css));
 }
 
 void BzPushButton::setCSS(const BzCSSData& record) {
-    setCSS(BzThemeUtils::convertToWCSS(record));
+    themeApplied(m_theme->setRecord(this, record));
 }
 
 QString BzPushButton::getCSS() const {
-    return m_theme->css;
+    return m_theme->css();
 }
 
 BzCSSData BzPushButton::getWCSS() const {
-    return m_theme->data;
+    return m_theme->data();
 }
 
 void BzPushButton::onThemeChanged() {
-    applyTheme(false);
+    themeApplied(m_theme->refreshAfterThemeRefresh(this));
 }
 
-bool BzPushButton::resolveTheme(bool force) {
-    if (!m_theme->css.isEmpty() || force) {
-        m_plainResolved = false;
-        return m_theme->resolve(this, force);
-    }
-    // Without a template there is nothing to resolve but the named colour
-    // sets, and a style sheet the host set directly must survive a theme
-    // switch: do not hand an empty template to the shared resolver.
-    const quint64 generation = BzThemeManager::instance()->generation();
-    const BzThemeUtils::AppThemeType type = BzThemeUtils::getThemeTypeOfWidget(this);
-    if (m_plainResolved && generation == m_plainGeneration && type == m_plainType)
-        return false;
-    m_plainResolved = true;
-    m_plainGeneration = generation;
-    m_plainType = type;
-    return true;
-}
-
-void BzPushButton::applyTheme(bool force) {
-    if (!resolveTheme(force))
+void BzPushButton::themeApplied(bool changed) {
+    if (!changed)
         return;
-    adoptFreeFormFrame();
-    const QMargins padding = BzButtonPainter::sheetPadding(styleSheet(), metaObject(), objectName());
-    if (padding != m_sheetPadding) {
-        m_sheetPadding = padding;
-        updateGeometry();
-    }
+    updatePadding();
     m_focusRectSet = resolveColorSet(m_focusRectSetName);
     themeResolved();
     updateFocusRadius();
@@ -110,26 +95,21 @@ void BzPushButton::applyTheme(bool force) {
     Q_EMIT cssChanged();
 }
 
-void BzPushButton::adoptFreeFormFrame() {
-    const QString& css = m_theme->css;
-    if (css.startsWith(QLatin1String(kRecordHeader)))
+void BzPushButton::updatePadding() {
+    // Paddings come from the widget's own rules (laid out here, without Qt's
+    // style-sheet engine) and then from whatever style sheet it carries.
+    const QMargins own = m_theme->hasOwnPadding() ? m_theme->ownPadding() : QMargins();
+    const QString sheet = styleSheet();
+    if (own == m_paddingOwn && sheet == m_paddingSheet)
         return;
-    BzCSSData& record = m_theme->data;
-    record.borderRadius = -1;
-    if (css.isEmpty())
-        return;
-    // A free-form template has no record header: take its radius and border
-    // from the declarations so the painted frame matches what it asks for.
-    static const QRegularExpression radius(QStringLiteral("border-radius\\s*:\\s*(\\d+)"));
-    static const QRegularExpression width(QStringLiteral("border(?:-width)?\\s*:\\s*(\\d+)\\s*px"));
-    const QRegularExpressionMatch r = radius.match(css);
-    if (r.hasMatch())
-        record.borderRadius = r.captured(1).toInt();
-    if (!record.borderColorSet.isEmpty()) {
-        const QRegularExpressionMatch w = width.match(css);
-        record.borderWidth = w.hasMatch() ? w.captured(1).toInt() : 1;
-        record.setBorders(true);
-        m_theme->border = resolveColorSet(record.borderColorSet);
+    m_paddingOwn = own;
+    m_paddingSheet = sheet;
+    QMargins padding = own;
+    if (!sheet.isEmpty())
+        BzSheetReader(sheet).readPadding(metaObject(), objectName(), &padding);
+    if (padding != m_sheetPadding) {
+        m_sheetPadding = padding;
+        updateGeometry();
     }
 }
 
@@ -148,7 +128,7 @@ BzColorSet BzPushButton::resolveColorSet(const QString& name) const {
 }
 
 const BzColorSet& BzPushButton::textColorSet() const {
-    return m_theme->text;
+    return m_theme->text();
 }
 
 void BzPushButton::setTextFormat(Qt::TextFormat format) {
@@ -223,6 +203,9 @@ void BzPushButton::setElidePadding(int padding) {
 }
 
 void BzPushButton::setFontToken(int token, bool scaled) {
+    // Every refresh of a button sets its token again: skip making the font.
+    if (token == m_fontToken && !scaled && !m_fontScaled)
+        return;
     const BzFont font(token, scaled); // clamps with a warning
     const bool changed = font.token() != m_fontToken;
     m_fontToken = font.token();
@@ -360,6 +343,7 @@ int BzPushButton::textFlags() const {
 
 void BzPushButton::invalidateTextCache() {
     m_textCached = false;
+    m_layoutInput.reset();
     m_fitRoom = -1;
     m_staticText.reset();
 }
@@ -385,8 +369,8 @@ QSize BzPushButton::textSize() const {
 void BzPushButton::decorations(Decorations*) const {}
 
 void BzPushButton::fillLayoutInput(BzButtonLayoutInput* in, const QRect& rect) const {
-    Decorations d;
-    decorations(&d);
+    *static_cast<Decorations*>(in) = Decorations();
+    decorations(in);
     in->rect = rect;
     in->padding = m_sheetPadding;
     in->textLeftPadding = m_textLeftPadding;
@@ -394,24 +378,17 @@ void BzPushButton::fillLayoutInput(BzButtonLayoutInput* in, const QRect& rect) c
     in->align = m_textHorAlign;
     in->direction = layoutDirection();
     in->text = textSize();
-    in->icon = d.icon;
-    in->iconTopLeftPadding = d.iconTopLeftPadding;
-    in->iconBottomRightPadding = d.iconBottomRightPadding;
-    in->iconAlignment = d.iconAlignment;
-    in->iconSpacing = d.iconSpacing;
-    in->anchor = d.anchor;
-    in->anchorSpacing = d.anchorSpacing;
-    in->anchorPadding = d.anchorPadding;
-    in->anchorLeading = d.anchorLeading;
-    in->anchorFollowsText = d.anchorFollowsText;
-    in->anchorOffset = d.anchorOffset;
 }
 
 BzPushButton::Geometry BzPushButton::contentGeometry() const {
     BzButtonLayoutInput in;
     fillLayoutInput(&in, rect());
-    Geometry g;
+    // Painting asks on every frame; lay out again only when something moved.
     const QString full = text();
+    if (m_layoutInput && *m_layoutInput == in && m_layoutText == full && m_layoutElide == m_elideMode &&
+        m_layoutElidePadding == m_elidePadding)
+        return m_geometry;
+    Geometry g;
     const bool rich = isRichText();
     const int natural = in.text.width();
     const auto fit = [&](int room) {
@@ -437,6 +414,13 @@ BzPushButton::Geometry BzPushButton::contentGeometry() const {
     g.text = r.text;
     g.icon = r.icon;
     g.anchor = r.anchor;
+    if (!m_layoutInput)
+        m_layoutInput.reset(new BzButtonLayoutInput);
+    *m_layoutInput = in;
+    m_layoutText = full;
+    m_layoutElide = m_elideMode;
+    m_layoutElidePadding = m_elidePadding;
+    m_geometry = g;
     return g;
 }
 
@@ -472,20 +456,7 @@ QStyle::State BzPushButton::paintState() const {
         initStyleOption(&option);
         return option.state;
     }
-    const QWidget* window = this->window();
-    QStyle::State state = QStyle::State_None;
-    if (isEnabled())
-        state |= QStyle::State_Enabled;
-    if (hasFocus())
-        state |= QStyle::State_HasFocus;
-    if (window->testAttribute(Qt::WA_KeyboardFocusChange))
-        state |= QStyle::State_KeyboardFocusChange;
-    if (underMouse())
-        state |= QStyle::State_MouseOver;
-    if (window->isActiveWindow())
-        state |= QStyle::State_Active;
-    if (isWindow())
-        state |= QStyle::State_Window;
+    QStyle::State state = bzWidgetState(this);
     if (isDown())
         state |= QStyle::State_Sunken;
     if (isChecked())
@@ -501,7 +472,7 @@ QColor BzPushButton::stateColor(const BzColorSet& set, QStyle::State state) cons
             (state & QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
         return palette().color(group, QPalette::ButtonText);
     }
-    if (m_theme->data.isOn(BzCSSData::FollowState))
+    if (m_theme->data().isOn(BzCSSData::FollowState))
         return set.colorFor(state);
     return set.colorFor(state & QStyle::State_Enabled);
 }
@@ -514,7 +485,7 @@ void BzPushButton::paintEvent(QPaintEvent*) {
     m_theme->paintFrame(&painter, QRectF(rect()), state);
 
     const Geometry g = contentGeometry();
-    const QColor textColor = stateColor(m_theme->text, state);
+    const QColor textColor = stateColor(m_theme->text(), state);
     if (!g.text.isEmpty() && !text().isEmpty()) {
         if (isRichText()) {
             QTextDocument* doc = document();
@@ -569,7 +540,7 @@ void BzPushButton::paintEvent(QPaintEvent*) {
     if (state & QStyle::State_HasFocus) {
         if (m_focusRectSet.isValid()) {
             if (state & QStyle::State_KeyboardFocusChange) {
-                const qreal inset = qMax(1, m_theme->data.borderWidth) + 0.5;
+                const qreal inset = qMax(1, m_theme->data().borderWidth) + 0.5;
                 const QRectF ring = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
                 const qreal r = qMax<qreal>(0, borderRadius() - inset);
                 painter.setRenderHint(QPainter::Antialiasing);
@@ -591,16 +562,11 @@ void BzPushButton::changeEvent(QEvent* event) {
     switch (event->type()) {
     case QEvent::ParentChange:
         // Reparenting may put the button under another "themeType".
-        applyTheme(false);
+        themeApplied(m_theme->refresh(this));
         break;
-    case QEvent::StyleChange: {
-        const QMargins padding = BzButtonPainter::sheetPadding(styleSheet(), metaObject(), objectName());
-        if (padding != m_sheetPadding) {
-            m_sheetPadding = padding;
-            updateGeometry();
-        }
+    case QEvent::StyleChange:
+        updatePadding();
         break;
-    }
     case QEvent::LayoutDirectionChange:
         m_staticText.reset();
         update();

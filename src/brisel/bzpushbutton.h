@@ -35,6 +35,24 @@ class QTextDocument;
 //   0 none       '&' markers are not underlined
 //   1 mnemonic   underlined when the style underlines shortcuts
 //   2 always     always underlined
+// What a button shows beside its text, as subclasses describe it.
+struct BRISEL_EXPORT BzButtonDecorations {
+    QSize icon; // empty: no main icon
+    QPoint iconTopLeftPadding;
+    QPoint iconBottomRightPadding;
+    BzEnum::Alignment iconAlignment = BzEnum::AlignLeft;
+    int iconSpacing = 0;
+    QSize anchor; // empty: no anchor icon
+    int anchorSpacing = 0;
+    int anchorPadding = 0;
+    bool anchorLeading = false;
+    bool anchorFollowsText = true;
+    QPoint anchorOffset;
+
+    bool operator==(const BzButtonDecorations& o) const;
+    bool operator!=(const BzButtonDecorations& o) const { return !(*this == o); }
+};
+
 class BRISEL_EXPORT BzPushButton : public QPushButton {
     Q_OBJECT
     // Writing "css" always re-resolves it against the current theme, even
@@ -143,20 +161,7 @@ Q_SIGNALS:
 
 protected:
     // What a subclass shows beside the text; the plain button shows nothing.
-    struct Decorations {
-        QSize icon; // empty: no main icon
-        QPoint iconTopLeftPadding;
-        QPoint iconBottomRightPadding;
-        BzEnum::Alignment iconAlignment = BzEnum::AlignLeft;
-        int iconSpacing = 0;
-        QSize anchor; // empty: no anchor icon
-        int anchorSpacing = 0;
-        int anchorPadding = 0;
-        bool anchorLeading = false;
-        bool anchorFollowsText = true;
-        QPoint anchorOffset;
-    };
-    // Where the parts go for the widget's current rect, mirrored already.
+    using Decorations = BzButtonDecorations;
     struct Geometry {
         QRect text;
         QString shownText;
@@ -191,9 +196,8 @@ protected:
 
 private:
     void init();
-    bool resolveTheme(bool force);
-    void applyTheme(bool force);
-    void adoptFreeFormFrame();
+    void themeApplied(bool changed);
+    void updatePadding();
     void applyFont();
     void fillLayoutInput(BzButtonLayoutInput* in, const QRect& rect) const;
     void updateFocusRadius();
@@ -206,6 +210,8 @@ private:
     QString m_focusRectSetName;
     BzColorSet m_focusRectSet;
     QMargins m_sheetPadding;
+    QString m_paddingSheet; // the style sheet m_sheetPadding was read from
+    QMargins m_paddingOwn;
     Qt::TextFormat m_textFormat = Qt::PlainText;
     BzEnum::HorAlign m_textHorAlign = BzEnum::Center;
     int m_textLeftPadding = 0;
@@ -219,9 +225,12 @@ private:
     int m_acceleratorType = NoAccelerator;
     int m_innerMetric = 0;
     int m_layoutMode = 0;
-    quint64 m_plainGeneration = 0;
-    BzThemeUtils::AppThemeType m_plainType = BzThemeUtils::Global;
-    bool m_plainResolved = false;
+    // Layout of the last paint, reused while its input is unchanged.
+    mutable std::unique_ptr<BzButtonLayoutInput> m_layoutInput;
+    mutable Geometry m_geometry;
+    mutable QString m_layoutText;
+    mutable Qt::TextElideMode m_layoutElide = Qt::ElideNone;
+    mutable int m_layoutElidePadding = 0;
     void invalidateTextCache();
     // Plain-text measurements, redone only when the text, font, elide
     // settings or the room change; painting itself shapes nothing.

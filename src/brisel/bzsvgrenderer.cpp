@@ -5,6 +5,7 @@
 #include <QCache>
 #include <QCoreApplication>
 #include <QFile>
+#include <QHash>
 #include <QImage>
 #include <QPaintDevice>
 #include <QPainter>
@@ -225,7 +226,16 @@ QPixmap BzSvgRenderer::tintedPixmap(const QSizeF& logicalSize, const QColor& col
 
 QPixmap BzSvgRenderer::cachedPixmap(const QString& nameOrPath, const QSize& logicalSize, const QColor& color,
                                     qreal devicePixelRatio) {
-    const QString path = resolvePath(nameOrPath);
+    // Painting asks with the same few names over and over: resolve each once
+    // instead of building its path on every paint.
+    static QHash<QString, QString> paths;
+    auto known = paths.constFind(nameOrPath);
+    if (known == paths.cend()) {
+        if (paths.size() >= 256)
+            paths.clear();
+        known = paths.insert(nameOrPath, resolvePath(nameOrPath));
+    }
+    const QString path = *known;
     if (path.isEmpty() || !color.isValid())
         return QPixmap();
     if (!logicalSize.isEmpty() && devicePixelRatio > 0) {

@@ -1,5 +1,6 @@
 #include "bzthemeutils.h"
 
+#include "bzsheetreader_p.h"
 #include "bzthememanager.h"
 #include "bzwidgettheme_p.h"
 
@@ -14,45 +15,51 @@
 namespace {
 
 bool s_refreshing = false;
+quint64 s_refreshSerial = 0;
+// Theme types found while a refresh walks every widget: ancestors are
+// shared, so each widget's chain is read once per refresh.
+QHash<const QWidget*, BzThemeUtils::AppThemeType> s_typeMemo;
 
-const char kHeader[] = "/*bz-css";
-const char kExtraMarker[] = "/*bz-extra*/";
 const char kCssProperty[] = "css";
 
-struct ParseCache {
-    QHash<QString, BzCSSData> entries; // key: theme name + '\n' + template
-    QSet<QString> warnedNames;
-    QSet<QString> warnedTemplates;
-    bool connected = false;
-};
+// Names and templates already warned about. Bounded like every cache here:
+// a host feeding endless distinct faulty input gets its warnings again
+// rather than a growing heap.
+constexpr qsizetype kMaxWarned = 1024;
 
-ParseCache& cache() {
-    static ParseCache c;
-    if (!c.connected) {
-        c.connected = true;
-        // A re-registered theme may change any resolved text.
-        QObject::connect(BzThemeManager::instance(), &BzThemeManager::themeRegistered,
-                         [] { cache().entries.clear(); });
-    }
-    return c;
+bool firstWarning(QSet<QString>& warned, const QString& key) {
+    if (warned.contains(key))
+        return false;
+    if (warned.size() >= kMaxWarned)
+        warned.clear();
+    warned.insert(key);
+    return true;
+}
+
+QSet<QString>& warnedNames() {
+    static QSet<QString> names;
+    return names;
+}
+
+QSet<QString>& warnedTemplates() {
+    static QSet<QString> templates;
+    return templates;
 }
 
 BzColorSet lookup(const QString& name, const QHash<QString, BzColorSet>& sets) {
+    ++bzThemeCounters().colorSetLookups;
     auto it = sets.constFind(name);
     if (it != sets.cend())
         return *it;
-    ParseCache& c = cache();
-    if (!c.warnedNames.contains(name)) {
-        c.warnedNames.insert(name);
+    if (firstWarning(warnedNames(), name))
         qWarning("BzThemeUtils: unknown colour set \"%s\" resolves to transparent", qPrintable(name));
-    }
     return BzColorSet(name, QColor(0, 0, 0, 0));
 }
 
 // Replaces every $(set) / $(set.state) with its colour. Returns false when the
 // template is malformed; the faulty part is then copied through unchanged.
-bool resolveReferences(const QString& css, const QHash<QString, BzColorSet>& sets, QString* out,
-                       QStringList* referenced = nullptr) {
+bool resolveReferences(const QString& css, const QHash<QString, BzColorSet>& sets, QString* out) {
+    ++bzThemeCounters().templateParses;
     out->clear();
     out->reserve(css.size() + 64);
     bool ok = true;
@@ -85,92 +92,18 @@ bool resolveReferences(const QString& css, const QHash<QString, BzColorSet>& set
                 state = BzColorSet::Normal;
             }
         }
-        const QString setName = name.toString();
-        if (referenced)
-            referenced->append(setName);
-        out->append(BzThemeUtils::colorToCss(lookup(setName, sets).color(state)));
+        out->append(BzThemeUtils::colorToCss(lookup(name.toString(), sets).color(state)));
         pos = end + 1;
     }
     return ok;
 }
 
-// The set named by the first $(...) in the value of a declaration whose
-// property matches `accept`.
-template <typename Accept> QString declaredSet(const QString& css, Accept accept) {
-    qsizetype pos = 0;
-    while (true) {
-        const qsizetype colon = css.indexOf(QLatin1Char(':'), pos);
-        if (colon < 0)
-            return QString();
-        qsizetype propStart = colon;
-        while (propStart > 0 &&
-               (css.at(propStart - 1).isLetterOrNumber() || css.at(propStart - 1) == QLatin1Char('-')))
-            --propStart;
-        const QString property = css.mid(propStart, colon - propStart);
-        qsizetype valueEnd = css.indexOf(QLatin1Char(';'), colon);
-        const qsizetype brace = css.indexOf(QLatin1Char('}'), colon);
-        if (valueEnd < 0 || (brace >= 0 && brace < valueEnd))
-            valueEnd = brace < 0 ? css.size() : brace;
-        if (!property.isEmpty() && accept(property)) {
-            const QString value = css.mid(colon + 1, valueEnd - colon - 1);
-            const qsizetype ref = value.indexOf(QLatin1String("$("));
-            const qsizetype close = value.indexOf(QLatin1Char(')'), ref);
-            if (ref >= 0 && close > ref) {
-                QString name = value.mid(ref + 2, close - ref - 2).trimmed();
-                const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-                if (dot >= 0)
-                    name.truncate(dot);
-                return name;
-            }
-        }
-        pos = colon + 1;
-    }
-}
-
-void readHeader(const QString& css, BzCSSData* data) {
-    const qsizetype start = css.indexOf(QLatin1String(kHeader));
-    if (start < 0)
-        return;
-    const qsizetype end = css.indexOf(QLatin1String("*/"), start);
-    const QString header = css.mid(start + int(sizeof(kHeader)) - 1, end - start - int(sizeof(kHeader)) + 1);
-    for (const QString& field : header.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        const QString key = field.section(QLatin1Char('='), 0, 0);
-        const QString value = field.section(QLatin1Char('='), 1);
-        if (key == QLatin1String("switches")) {
-            const QStringList parts = value.split(QLatin1Char(','));
-            for (int i = 0; i < BzCSSData::SwitchCount && i < parts.size(); ++i)
-                data->switches[i] = parts.at(i).toInt();
-        } else if (key == QLatin1String("radius")) {
-            data->borderRadius = value.toInt();
-        } else if (key == QLatin1String("width")) {
-            data->borderWidth = value.toInt();
-        }
-    }
-    const qsizetype extra = css.indexOf(QLatin1String(kExtraMarker));
-    if (extra >= 0)
-        data->extraCSS = css.mid(extra + int(sizeof(kExtraMarker)) - 1);
-}
-
-BzCSSData parseUncached(const QString& css, const QHash<QString, BzColorSet>& sets) {
-    BzCSSData data;
-    readHeader(css, &data);
-    data.backgroundColorSet = declaredSet(css, [](const QString& p) {
-        return p == QLatin1String("background-color") || p == QLatin1String("background");
-    });
-    data.borderColorSet = declaredSet(css, [](const QString& p) {
-        return p.startsWith(QLatin1String("border")) && !p.endsWith(QLatin1String("radius")) &&
-               !p.endsWith(QLatin1String("width")) && !p.endsWith(QLatin1String("style"));
-    });
-    data.textColorSet = declaredSet(css, [](const QString& p) { return p == QLatin1String("color"); });
-    if (!resolveReferences(css, sets, &data.styleSheet)) {
-        ParseCache& c = cache();
-        if (!c.warnedTemplates.contains(css)) {
-            c.warnedTemplates.insert(css);
-            qWarning("BzThemeUtils: malformed colour reference in style sheet template: %s",
-                     qPrintable(css.left(200)));
-        }
-    }
-    return data;
+QString resolveWarning(const QString& css, const QHash<QString, BzColorSet>& sets) {
+    QString out;
+    if (!resolveReferences(css, sets, &out) && firstWarning(warnedTemplates(), css))
+        qWarning("BzThemeUtils: malformed colour reference in style sheet template: %s",
+                 qPrintable(css.left(200)));
+    return out;
 }
 
 // Keeps plain widgets' style sheets in step with their "css" property.
@@ -248,18 +181,34 @@ const QHash<QString, BzColorSet>& getAppWColorSets() {
 }
 
 AppThemeType getThemeTypeOfWidget(const QWidget* widget) {
-    for (const QWidget* w = widget; w; w = w->parentWidget()) {
-        const QVariant v = w->property("themeType");
-        if (!v.isValid())
-            continue;
-        if (v.typeId() == QMetaType::QString || v.typeId() == QMetaType::QByteArray)
-            return stringToThemeType(v.toString());
-        bool ok = false;
-        const int n = v.toInt(&ok);
-        if (ok && n >= Global && n <= HighContrast)
-            return AppThemeType(n);
+    if (!widget)
+        return Global;
+    if (s_refreshing) {
+        auto it = s_typeMemo.constFind(widget);
+        if (it != s_typeMemo.cend())
+            return *it;
     }
-    return Global;
+    AppThemeType type = Global;
+    const QVariant v = widget->property("themeType");
+    bool found = false;
+    if (v.isValid()) {
+        if (v.typeId() == QMetaType::QString || v.typeId() == QMetaType::QByteArray) {
+            type = stringToThemeType(v.toString());
+            found = true;
+        } else {
+            bool ok = false;
+            const int n = v.toInt(&ok);
+            if (ok && n >= Global && n <= HighContrast) {
+                type = AppThemeType(n);
+                found = true;
+            }
+        }
+    }
+    if (!found)
+        type = getThemeTypeOfWidget(widget->parentWidget());
+    if (s_refreshing)
+        s_typeMemo.insert(widget, type);
+    return type;
 }
 
 bool isHighContrastEnabled() {
@@ -271,32 +220,25 @@ BzColorSet transparentColourSet() {
 }
 
 BzCSSData parseCSS(const QWidget* widget, const QString& css, const QHash<QString, BzColorSet>& colourSets) {
+    const AppThemeType type = getThemeTypeOfWidget(widget);
     BzThemeManager* manager = BzThemeManager::instance();
-    const BzTheme& theme = manager->themeFor(getThemeTypeOfWidget(widget));
-    const bool isCurrent = &theme == &manager->currentTheme();
+    const BzTheme& theme = manager->themeFor(type);
+    const BzAppearance::Ptr appearance = BzAppearance::fromText(css);
+    BzCSSData data = appearance->record;
     // A caller-supplied map other than the current theme's is resolved as is.
-    if (isCurrent && &colourSets != &theme.colorSets())
-        return parseUncached(css, colourSets);
-    ParseCache& c = cache();
-    const QString key = theme.name() + QLatin1Char('\n') + css;
-    auto it = c.entries.constFind(key);
-    if (it != c.entries.cend())
-        return *it;
-    const BzCSSData data = parseUncached(css, theme.colorSets());
-    c.entries.insert(key, data);
+    if (&theme == &manager->currentTheme() && &colourSets != &theme.colorSets())
+        data.styleSheet = resolveWarning(css, colourSets);
+    else
+        data.styleSheet = appearance->resolvedText(type);
     return data;
 }
 
 QString resolveTemplate(const QString& css, AppThemeType type) {
-    QString out;
-    if (!resolveReferences(css, BzThemeManager::instance()->themeFor(type).colorSets(), &out))
-        qWarning("BzThemeUtils: malformed colour reference in style sheet template: %s",
-                 qPrintable(css.left(200)));
-    return out;
+    return resolveWarning(css, BzThemeManager::instance()->themeFor(type).colorSets());
 }
 
 QString convertToWCSS(const BzCSSData& data) {
-    QString css = QLatin1String(kHeader) + QLatin1String(" switches=");
+    QString css = QLatin1String(BzSheetReader::recordHeader()) + QLatin1String(" switches=");
     for (int i = 0; i < BzCSSData::SwitchCount; ++i) {
         if (i)
             css += QLatin1Char(',');
@@ -321,7 +263,7 @@ QString convertToWCSS(const BzCSSData& data) {
     if (!data.textColorSet.trimmed().isEmpty())
         css += QLatin1String("color: $(") + data.textColorSet.trimmed() + QLatin1String(");\n");
     if (!data.extraCSS.isEmpty())
-        css += QLatin1String(kExtraMarker) + data.extraCSS;
+        css += QLatin1String(BzSheetReader::extraMarker()) + data.extraCSS;
     return css;
 }
 
@@ -352,6 +294,8 @@ void refreshWidgetThemes() {
     // to one update per window below: thousands of single dirty widgets cost
     // Qt far more to merge than one dirty window.
     s_refreshing = true;
+    ++s_refreshSerial;
+    s_typeMemo.clear();
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget* widget : widgets) {
         const QVariant css = widget->property(kCssProperty);
@@ -367,6 +311,7 @@ void refreshWidgetThemes() {
             QMetaObject::invokeMethod(widget, "onThemeChanged", Qt::QueuedConnection);
     }
     s_refreshing = false;
+    s_typeMemo.clear();
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible())
             window->update();
@@ -377,4 +322,8 @@ void refreshWidgetThemes() {
 
 bool bzThemeRefreshInProgress() {
     return s_refreshing;
+}
+
+quint64 bzThemeRefreshSerial() {
+    return s_refreshSerial;
 }

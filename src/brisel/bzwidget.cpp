@@ -15,20 +15,19 @@ BzWidget::BzWidget(QWidget* parent, Qt::WindowFlags flags)
 BzWidget::~BzWidget() = default;
 
 void BzWidget::setCSS(const QString& css) {
-    m_theme->css = css;
-    applyTheme(true);
+    themeApplied(m_theme->setText(this, css));
 }
 
 void BzWidget::setCSS(const BzCSSData& record) {
-    setCSS(BzThemeUtils::convertToWCSS(record));
+    themeApplied(m_theme->setRecord(this, record));
 }
 
 QString BzWidget::getCSS() const {
-    return m_theme->css;
+    return m_theme->css();
 }
 
 BzCSSData BzWidget::getWCSS() const {
-    return m_theme->data;
+    return m_theme->data();
 }
 
 void BzWidget::setFontToken(int token, bool scaled) {
@@ -41,27 +40,27 @@ void BzWidget::setFontToken(int token, bool scaled) {
 }
 
 void BzWidget::onThemeChanged() {
-    applyTheme(false);
+    themeApplied(m_theme->refreshAfterThemeRefresh(this));
 }
 
-void BzWidget::applyTheme(bool force) {
-    if (m_theme->resolve(this, force)) {
-        if (!bzThemeRefreshInProgress())
-            update();
-        Q_EMIT cssChanged();
-    }
+void BzWidget::themeApplied(bool changed) {
+    if (!changed)
+        return;
+    if (!bzThemeRefreshInProgress())
+        update();
+    Q_EMIT cssChanged();
 }
 
 void BzWidget::changeEvent(QEvent* event) {
     // Reparenting may put the widget under another "themeType".
-    if (event->type() == QEvent::ParentChange && !m_theme->css.isEmpty())
-        applyTheme(false);
+    if (event->type() == QEvent::ParentChange && !m_theme->isEmpty())
+        themeApplied(m_theme->refresh(this));
     QWidget::changeEvent(event);
 }
 
 void BzWidget::paintEvent(QPaintEvent*) {
-    QStyleOption option;
-    option.initFrom(this);
+    if (m_theme->isEmpty())
+        return;
     QPainter painter(this);
-    m_theme->paintFrame(&painter, rect(), option.state);
+    m_theme->paintFrame(&painter, rect(), bzWidgetState(this));
 }

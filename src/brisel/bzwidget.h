@@ -43,7 +43,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void applyTheme(bool force);
+    void themeApplied(bool changed);
     std::unique_ptr<BzWidgetTheme> m_theme;
     int m_fontToken = -1;
 };

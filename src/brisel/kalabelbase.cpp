@@ -6,6 +6,7 @@
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>
+#include <QMovie>
 #include <QPainter>
 #include <QStyleOption>
 #include <QTextDocumentFragment>
@@ -62,24 +63,23 @@ void KaLabelBase::init(QAccessible::Role role) {
 }
 
 void KaLabelBase::setCSS(const QString& css) {
-    m_theme->css = css;
-    applyTheme(true);
+    themeApplied(m_theme->setText(this, css));
 }
 
 void KaLabelBase::setCSS(const BzCSSData& record) {
-    setCSS(BzThemeUtils::convertToWCSS(record));
+    themeApplied(m_theme->setRecord(this, record));
 }
 
 QString KaLabelBase::getCSS() const {
-    return m_theme->css;
+    return m_theme->css();
 }
 
 BzCSSData KaLabelBase::getWCSS() const {
-    return m_theme->data;
+    return m_theme->data();
 }
 
 QString KaLabelBase::textColorSetName() const {
-    return m_theme->data.textColorSet;
+    return m_theme->data().textColorSet;
 }
 
 void KaLabelBase::setFontToken(int token, bool scaled) {
@@ -95,6 +95,7 @@ void KaLabelBase::setElideMode(Qt::TextElideMode mode) {
     if (m_elideMode == mode)
         return;
     m_elideMode = mode;
+    m_elidedValid = false;
     update();
     Q_EMIT elideModeChanged();
 }
@@ -104,11 +105,19 @@ QString KaLabelBase::getElidedText() const {
 }
 
 QString KaLabelBase::getElidedText(int width) const {
+    const QString source = text();
+    width = qMax(0, width);
+    // Painting asks on every frame; the answer only moves with the text,
+    // the width, the mode or the font.
+    if (m_elidedValid && m_elidedWidth == width && m_elidedSource == source)
+        return m_elided;
     const QString plain =
-        textFormat() == Qt::RichText ? QTextDocumentFragment::fromHtml(text()).toPlainText() : text();
-    if (m_elideMode == Qt::ElideNone)
-        return plain;
-    return fontMetrics().elidedText(plain, m_elideMode, qMax(0, width));
+        textFormat() == Qt::RichText ? QTextDocumentFragment::fromHtml(source).toPlainText() : source;
+    m_elided = m_elideMode == Qt::ElideNone ? plain : fontMetrics().elidedText(plain, m_elideMode, width);
+    m_elidedSource = source;
+    m_elidedWidth = width;
+    m_elidedValid = true;
+    return m_elided;
 }
 
 void KaLabelBase::enableArrowNavigate(bool enable) {
@@ -122,22 +131,44 @@ void KaLabelBase::setAccessibleRole(QAccessible::Role role) {
 }
 
 void KaLabelBase::onThemeChanged() {
-    applyTheme(false);
+    themeApplied(m_theme->refreshAfterThemeRefresh(this));
 }
 
-void KaLabelBase::applyTheme(bool force) {
-    if (!m_theme->resolve(this, force))
+void KaLabelBase::themeApplied(bool changed) {
+    if (!changed)
         return;
-    updatePalette();
+    // Plain labels are painted with the resolved colour directly; only the
+    // ones Qt paints (rich text, selectable text, pixmaps) need a palette of
+    // their own, which costs every label memory and time otherwise.
+    if (m_paletteApplied || !paintsPlainText())
+        updatePalette();
     if (!bzThemeRefreshInProgress())
         update();
     Q_EMIT cssChanged();
 }
 
+bool KaLabelBase::paintsPlainText() const {
+    if (!isEnabled() || frameWidth() > 0 || !pixmap().isNull() || movie() || buddy())
+        return false;
+    if (textInteractionFlags() &
+        (Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::TextEditable |
+         Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard))
+        return false;
+    switch (textFormat()) {
+    case Qt::PlainText:
+        return true;
+    case Qt::AutoText:
+        return !Qt::mightBeRichText(text());
+    default:
+        return false;
+    }
+}
+
 void KaLabelBase::updatePalette() {
-    const BzColorSet& text = m_theme->text;
+    const BzColorSet& text = m_theme->text();
     if (!text.isValid())
         return;
+    m_paletteApplied = true;
     QPalette pal = palette();
     for (auto group : {QPalette::Active, QPalette::Inactive}) {
         pal.setColor(group, QPalette::WindowText, text.normal());
@@ -153,8 +184,10 @@ void KaLabelBase::updatePalette() {
 }
 
 void KaLabelBase::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ParentChange && !m_theme->css.isEmpty())
-        applyTheme(false);
+    if (event->type() == QEvent::ParentChange && !m_theme->isEmpty())
+        themeApplied(m_theme->refresh(this));
+    if (event->type() == QEvent::FontChange)
+        m_elidedValid = false;
     // During a theme refresh the window repaints whole; the base class would
     // only queue one more single-widget update. Painting reads the widget
     // palette directly, so nothing else needs the event.
@@ -164,22 +197,44 @@ void KaLabelBase::changeEvent(QEvent* event) {
 }
 
 void KaLabelBase::paintEvent(QPaintEvent* event) {
-    QStyleOption option;
-    option.initFrom(this);
-    {
-        QPainter painter(this);
-        m_theme->paintFrame(&painter, rect(), option.state);
-    }
+    const QStyle::State state = bzWidgetState(this);
+    QPainter painter(this);
+    if (!m_theme->isEmpty())
+        m_theme->paintFrame(&painter, rect(), state);
+    const bool plain = paintsPlainText();
+    if (!plain && !m_paletteApplied)
+        updatePalette();
     const bool elide = m_elideMode != Qt::ElideNone && !wordWrap() && pixmap().isNull() && !text().isEmpty();
-    if (!elide) {
+    if (!plain && !elide) {
+        painter.end();
         QLabel::paintEvent(event);
         return;
     }
-    const QRect area = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
-    const QString shown = getElidedText(area.width());
-    QPainter painter(this);
-    style()->drawItemText(&painter, area, int(QStyle::visualAlignment(layoutDirection(), alignment())),
-                          palette(), isEnabled(), shown, foregroundRole());
+    // The same placement as QLabel gives plain text.
+    QRect area = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+    const QString shown = elide ? getElidedText(area.width()) : text();
+    if (shown.isEmpty())
+        return;
+    const Qt::LayoutDirection direction =
+        plain ? (shown.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight) : layoutDirection();
+    const int align = int(QStyle::visualAlignment(direction, alignment()));
+    if (plain && indent() > 0) {
+        const int m = indent();
+        if (align & Qt::AlignLeft)
+            area.setLeft(area.left() + m);
+        if (align & Qt::AlignRight)
+            area.setRight(area.right() - m);
+        if (align & Qt::AlignTop)
+            area.setTop(area.top() + m);
+        if (align & Qt::AlignBottom)
+            area.setBottom(area.bottom() - m);
+    }
+    const BzColorSet& colours = m_theme->text();
+    painter.setPen(colours.isValid() && plain ? colours.normal() : palette().color(foregroundRole()));
+    const int flags =
+        (plain ? (direction == Qt::LeftToRight ? Qt::TextForceLeftToRight : Qt::TextForceRightToLeft) : 0) |
+        (wordWrap() ? Qt::TextWordWrap : 0);
+    painter.drawText(area, align | flags, shown);
 }
 
 void KaLabelBase::keyPressEvent(QKeyEvent* event) {

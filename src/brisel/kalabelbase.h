@@ -67,7 +67,8 @@ protected:
 
 private:
     void init(QAccessible::Role role);
-    void applyTheme(bool force);
+    void themeApplied(bool changed);
+    bool paintsPlainText() const;
     void updatePalette();
 
     std::unique_ptr<BzWidgetTheme> m_theme;
@@ -76,4 +77,9 @@ private:
     int m_fontToken = -1;
     bool m_arrowNavigate = false;
     bool m_settingPalette = false;
+    bool m_paletteApplied = false;
+    mutable bool m_elidedValid = false;
+    mutable int m_elidedWidth = 0;
+    mutable QString m_elidedSource;
+    mutable QString m_elided;
 };

@@ -253,7 +253,7 @@ void IKaButton::refresh(const Config& config) {
     setInnerMetric(config.innerMetric);
 }
 
-void IKaButton::applyColors(const Config::Colors& colors, const QString& styleSheet) {
+void IKaButton::applyColors(const Config::Colors& colors, const QString& styleSheet, int radius) {
     using Side = KaButtonConfigRecord;
     BzCSSData record;
     record.backgroundColorSet = colors.backgroundColorSet;
@@ -269,12 +269,11 @@ void IKaButton::applyColors(const Config::Colors& colors, const QString& styleSh
                      colors.hasBorder[mirrored ? Side::BorderLeft : Side::BorderRight]);
     record.setSwitch(BzCSSData::PaintBackground, colors.paintBackground);
     record.setSwitch(BzCSSData::FollowState, !colors.fixedColors);
-    record.borderRadius = colors.squareCorners ? 0 : -1;
+    record.borderRadius = colors.squareCorners ? 0 : radius;
     record.extraCSS = styleSheet + m_tooltipStyleSheet;
 
-    const QString css = BzThemeUtils::convertToWCSS(record);
-    if (css != getCSS())
-        setCSS(css);
+    // Equal records cost nothing: the base button keeps the applied one.
+    setCSS(record);
     setSvgIconColorSet(colors.iconColorSet);
     setAnchorSvgColorSet(colors.iconColorSet);
 }

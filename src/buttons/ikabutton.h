@@ -120,10 +120,10 @@ protected:
     // Applies the geometry and font part of a record.
     void refresh(const Config& config);
     // Hands the colour part to the base button as a CSS record, with
-    // `styleSheet` and the tool-tip rule as its extra style-sheet text. The
-    // base button resolves only when the resulting template changed: a theme
-    // switch has re-resolved it already through the "css" property.
-    void applyColors(const Config::Colors& colors, const QString& styleSheet);
+    // `styleSheet` and the tool-tip rule as its extra style-sheet text and
+    // `radius` for the corners (-1: a pill). An unchanged record costs
+    // nothing: a theme switch has re-resolved it already through "css".
+    void applyColors(const Config::Colors& colors, const QString& styleSheet, int radius = -1);
     // Sets the focus ring radius the focus style reads.
     void setFocusRadius(qreal radius);
     // For buttons without text: the accessible name to use unless the host

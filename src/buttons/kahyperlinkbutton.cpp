@@ -83,24 +83,8 @@ void KaHyperlinkButton::refresh() {
     // A disabled link does not invite a click.
     g.colors.underlineText = g.colors.underlineText || (m_hovered && isEnabled());
 
-    // Like applyColors(), but with the link's own small radius instead of a
-    // pill. The sides are all alike, so nothing needs mirroring.
-    BzCSSData record;
-    record.backgroundColorSet = g.colors.backgroundColorSet;
-    record.borderColorSet = g.colors.borderColorSet;
-    record.textColorSet = g.colors.textColorSet;
-    record.setSwitch(BzCSSData::BorderTop, g.colors.hasBorder[KaButtonConfigRecord::BorderTop]);
-    record.setSwitch(BzCSSData::BorderRight, g.colors.hasBorder[KaButtonConfigRecord::BorderRight]);
-    record.setSwitch(BzCSSData::BorderBottom, g.colors.hasBorder[KaButtonConfigRecord::BorderBottom]);
-    record.setSwitch(BzCSSData::BorderLeft, g.colors.hasBorder[KaButtonConfigRecord::BorderLeft]);
-    record.setSwitch(BzCSSData::PaintBackground, g.colors.paintBackground);
-    record.setSwitch(BzCSSData::FollowState, !g.colors.fixedColors);
-    record.borderRadius = g.colors.squareCorners ? 0 : g.borderRadius;
-    record.extraCSS = tooltipStyleSheet();
-    const QString css = BzThemeUtils::convertToWCSS(record);
-    if (css != getCSS())
-        setCSS(css);
-    setSvgIconColorSet(g.colors.iconColorSet);
+    // The link's own small radius instead of a pill.
+    applyColors(g.colors, QString(), g.borderRadius);
 
     IKaButton::refresh(g);
     setTextLeftPadding(g.paddingLeft);
@@ -108,5 +92,5 @@ void KaHyperlinkButton::refresh() {
     setSvgIconVisible(g.svgIconVisible);
     setSvgIconSize(g.svgIconSize);
     setSvgIconSpacing(g.svgIconSpacing);
-    setFocusRadius(record.borderRadius);
+    setFocusRadius(g.colors.squareCorners ? 0 : g.borderRadius);
 }

@@ -1,5 +1,24 @@
 #include "kapillbutton.h"
 
+#include <QHash>
+
+namespace {
+// Every refresh asks for the text of a handful of padding pairs; each is
+// written once.
+QString paddingSheet(int left, int right) {
+    static QHash<QPair<int, int>, QString> sheets;
+    const QPair<int, int> key(left, right);
+    auto it = sheets.constFind(key);
+    if (it == sheets.cend()) {
+        if (sheets.size() >= 64)
+            sheets.clear();
+        it = sheets.insert(
+            key, QStringLiteral("BzPushButton{padding-right:%1px;padding-left:%2px;}").arg(right).arg(left));
+    }
+    return *it;
+}
+} // namespace
+
 KaPillButton::KaPillButton(QWidget* parent)
     : KaButton(parent, new KaPillButtonConfig) {
     connect(this, &IKaButton::refreshConfig, this, &KaPillButton::refresh);
@@ -22,9 +41,7 @@ void KaPillButton::refresh() {
     config->fillGeometry(g);
     // Qt's engine never paints this button; the base button reads the
     // paddings back from the sheet.
-    applyColors(g.colors, QStringLiteral("BzPushButton{padding-right:%1px;padding-left:%2px;}")
-                              .arg(g.paddingRight)
-                              .arg(g.paddingLeft));
+    applyColors(g.colors, paddingSheet(g.paddingLeft, g.paddingRight));
     IKaButton::refresh(g);
     setSvgIconVisible(g.svgIconVisible);
     setAnchorIconVisible(g.anchorIconVisible);

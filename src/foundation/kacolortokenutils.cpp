@@ -841,7 +841,15 @@ std::string tokenToStdString(Karvox::Token token) {
 }
 
 QString tokenToString(Karvox::Token token) {
-    return QString::fromStdString(tokenToStdString(token));
+    // Components ask on every refresh: each name becomes a QString once.
+    static QString names[Karvox::TokenCount];
+    const int index = static_cast<int>(token);
+    if (index < 0 || index >= Karvox::TokenCount)
+        return QString();
+    QString& name = names[index];
+    if (name.isNull())
+        name = QLatin1String(kTokenNames[index]);
+    return name;
 }
 
 } // namespace KaColorTokenUtils

@@ -360,7 +360,9 @@ void TestBzPushButton::styleSheetPadding() {
     BzCSSData data = primary();
     data.extraCSS = extra;
     button.setCSS(data);
-    QVERIFY(!button.styleSheet().isEmpty());
+    // Paddings of the button's own rules are laid out without Qt's
+    // style-sheet engine; everything else still goes to it.
+    QCOMPARE(button.styleSheet().isEmpty(), wider > 0);
     QCOMPARE(button.sizeHint().width(), base + wider);
 }
 
@@ -406,9 +408,10 @@ void TestBzPushButton::sameThemeSetsNoStyleSheet() {
     QSignalSpy css(&button, &BzPushButton::cssChanged);
     BzThemeUtils::refreshWidgetThemes();
     QCoreApplication::processEvents();
-    QCOMPARE(css.count(), 1);   // re-resolved...
-    QCOMPARE(counter.count, 0); // ...to the same text
+    QCOMPARE(css.count(), 0); // nothing moved, nothing resolved
+    QCOMPARE(counter.count, 0);
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
+    QCOMPARE(css.count(), 1);
     QCOMPARE(counter.count, 1); // the colour in the extra text did change
 }
 
