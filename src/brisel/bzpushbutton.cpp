@@ -447,6 +447,11 @@ QSize BzPushButton::minimumSizeHint() const {
     return QSize(full.width() - natural + qMin(natural, ellipsis), full.height());
 }
 
+void BzPushButton::setSquareCorners(int corners) {
+    m_theme->setSquareCorners(corners);
+    update();
+}
+
 QStyle::State BzPushButton::paintState() const {
     // A full style option also measures fonts and asks the style for the
     // icon size; per paint only the state bits are needed. An attached menu

@@ -181,6 +181,8 @@ protected:
 
     // The style state the colours are picked for.
     QStyle::State paintState() const;
+    // Corners (DrawUtils::Corner flags) the frame keeps square.
+    void setSquareCorners(int corners);
     // The colour of `set` for `state` (the record may turn state tracking
     // off); the palette's button text colour when `set` is not valid.
     QColor stateColor(const BzColorSet& set, QStyle::State state) const;

@@ -150,9 +150,9 @@ void KaLabelBase::themeApplied(bool changed) {
 bool KaLabelBase::paintsPlainText() const {
     if (!isEnabled() || frameWidth() > 0 || !pixmap().isNull() || movie() || buddy())
         return false;
+    // Links only matter in rich text, which Qt paints anyway.
     if (textInteractionFlags() &
-        (Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::TextEditable |
-         Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard))
+        (Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard | Qt::TextEditable))
         return false;
     switch (textFormat()) {
     case Qt::PlainText:

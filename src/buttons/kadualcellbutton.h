@@ -38,18 +38,9 @@ private Q_SLOTS:
     void refresh();
 
 private:
-    void resolveFaceSets();
-
     QPointer<IKaDualCellConfig> m_cellConfig;
-    // What the last refresh asked for, in left-to-right terms.
-    QString m_faceName;
-    QString m_borderName;
     QString m_separatorName;
-    std::array<bool, KaButtonConfigRecord::BorderSideCount> m_borders{{false, false, false, false}};
-    bool m_fixedColors = false;
     bool m_vertical = false;
     int m_squareCorners = 0;
-    BzColorSet m_face;
-    BzColorSet m_border;
     BzColorSet m_separator;
 };

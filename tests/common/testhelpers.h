@@ -41,6 +41,19 @@ inline QImage paint(QWidget& widget, qreal dpr = 1.0) {
     return image;
 }
 
+// The colour text is painted in: that of the most opaque pixel (glyph stems
+// are fully covered) of the widget painted alone.
+inline QColor textColour(QWidget& widget) {
+    widget.resize(widget.sizeHint().expandedTo(QSize(40, 20)));
+    const QImage image = paint(widget).convertToFormat(QImage::Format_ARGB32);
+    QColor best(0, 0, 0, 0);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qAlpha(image.pixel(x, y)) > best.alpha())
+                best = QColor::fromRgba(image.pixel(x, y));
+    return best;
+}
+
 // Bounding box, in device pixels, of the pixels exactly `color` (alpha aside).
 inline QRect boxOf(const QImage& image, const QColor& color) {
     QRect box;

@@ -2,6 +2,7 @@
 
 #include <bzthememanager.h>
 #include <bzthemeutils.h>
+#include <testhelpers.h>
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -75,7 +76,8 @@ void tst_KaLabel::defaultColorSet() {
     QCOMPARE(label->textColorSetName(), QStringLiteral("label-primary-text"));
     QVERIFY(label->autoResize());
     const BzColorSet set = BzThemeUtils::getColorSet("label-primary-text");
-    QCOMPARE(label->palette().color(QPalette::Active, QPalette::WindowText), set.normal());
+    label->setText(QStringLiteral("HHH"));
+    QCOMPARE(BzTest::textColour(*label).rgb(), set.normal().rgb());
     // The record names nothing but the text colour set.
     const BzCSSData record = label->getWCSS();
     QVERIFY(record.backgroundColorSet.isEmpty());
@@ -87,12 +89,11 @@ void tst_KaLabel::textColorSetName() {
     KaLabel label(QStringLiteral("abc"));
     label.setTextColorSetName(QStringLiteral("label-error-text"));
     QCOMPARE(label.textColorSetName(), QStringLiteral("label-error-text"));
-    QCOMPARE(label.palette().color(QPalette::WindowText),
-             BzThemeUtils::getColorSet("label-error-text").normal());
+    QCOMPARE(BzTest::textColour(label).rgb(), BzThemeUtils::getColorSet("label-error-text").normal().rgb());
     // The base layer keeps it on a theme switch without help from the label.
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
-    QCOMPARE(label.palette().color(QPalette::WindowText),
-             BzThemeUtils::getColorSet("label-error-text", BzThemeUtils::Dark).normal());
+    QCOMPARE(BzTest::textColour(label).rgb(),
+             BzThemeUtils::getColorSet("label-error-text", BzThemeUtils::Dark).normal().rgb());
 }
 
 void tst_KaLabel::sizeHint_data() {
