@@ -152,19 +152,7 @@ int main(int argc, char** argv) {
     const auto makeLightPlain = [](int i, QWidget* p) {
         return makePlain(i, p, BzThemeUtils::Light);
     };
-    // Warm-up: fonts, icons and theme caches are process-wide and paid once
-    // by whichever side runs first.
-    bench::timeCreation(50, makePill);
-    bench::timeCreation(50, makeLightPlain);
-
-    // Alternate the sides so that drift on a noisy machine hits both.
-    std::vector<double> pillCreate, plainCreate;
-    for (int r = 0; r < rounds; ++r) {
-        pillCreate.push_back(bench::timeCreation(count, makePill));
-        plainCreate.push_back(bench::timeCreation(count, makeLightPlain));
-    }
-    const double pc = bench::median(pillCreate);
-    const double qc = bench::median(plainCreate);
+    const auto [pc, qc] = bench::compareCreation(count, rounds, makePill, makeLightPlain);
     std::printf("create + lay out + paint, %d KaPillButtons with icons: %8.2f ms\n", count, pc);
     std::printf("create + lay out + paint, %d styled QPushButtons:      %8.2f ms\n", count, qc);
     std::printf("ratio: %.3f (bar: at most 1.5)\n\n", pc / qc);
@@ -181,19 +169,7 @@ int main(int argc, char** argv) {
     std::printf("restyle, %d QPushButtons:       %8.2f ms (setStyleSheet + repaint)\n", count, qs);
     std::printf("ratio: %.3f (bar: at most 0.35)\n\n", ps / qs);
 
-    // Wider rows keep the window of many buttons from growing too tall.
-    const bench::GridShape heapShape{50, 2, QSize(1600, 1000)};
-    // Warm-up at full size: the first grid of this size leaves process-wide
-    // tables grown, and later grids reuse that room.
-    bench::heapPerWidget(heapCount, makeHeapPill, heapShape);
-    bench::heapPerWidget(heapCount, makeHeapPlain, heapShape);
-    std::vector<double> pillHeap, plainHeap;
-    for (int r = 0; r < 3; ++r) {
-        pillHeap.push_back(bench::heapPerWidget(heapCount, makeHeapPill, heapShape));
-        plainHeap.push_back(bench::heapPerWidget(heapCount, makeHeapPlain, heapShape));
-    }
-    const double ph = bench::median(pillHeap);
-    const double qh = bench::median(plainHeap);
+    const auto [ph, qh] = bench::compareHeap(heapCount, makeHeapPill, makeHeapPlain);
     std::printf("info: heap per shown button, %d each: KaPillButton with an icon %.0f bytes, "
                 "QPushButton with an icon %.0f bytes\n",
                 heapCount, ph, qh);

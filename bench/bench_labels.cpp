@@ -133,19 +133,7 @@ int main(int argc, char** argv) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
 
-    // Warm-up: fonts and theme caches are process-wide and paid once by
-    // whichever side runs first.
-    bench::timeCreation(50, makeKaLabel);
-    bench::timeCreation(50, makePlainLabel);
-
-    // Alternate the sides so that drift on a noisy machine hits both.
-    std::vector<double> kaCreate, plainCreate;
-    for (int r = 0; r < rounds; ++r) {
-        kaCreate.push_back(bench::timeCreation(count, makeKaLabel));
-        plainCreate.push_back(bench::timeCreation(count, makePlainLabel));
-    }
-    const double kc = bench::median(kaCreate);
-    const double qc = bench::median(plainCreate);
+    const auto [kc, qc] = bench::compareCreation(count, rounds, makeKaLabel, makePlainLabel);
     std::printf("create + lay out + paint, %d KaLabels: %8.2f ms\n", count, kc);
     std::printf("create + lay out + paint, %d QLabels:  %8.2f ms\n", count, qc);
     std::printf("ratio: %.3f (bar: at most 1.3)\n\n", kc / qc);
@@ -162,18 +150,7 @@ int main(int argc, char** argv) {
     std::printf("palette switch, %d QLabels: %8.2f ms (QApplication::setPalette + repaint)\n", count, qs);
     std::printf("ratio: %.3f (bar: at most 1.2)\n\n", ks / qs);
 
-    const bench::GridShape heapShape{50, 2, QSize(1600, 1000)};
-    // Warm-up at full size: the first grid of this size leaves process-wide
-    // tables grown, and later grids reuse that room.
-    bench::heapPerWidget(heapCount, makeKaLabel, heapShape);
-    bench::heapPerWidget(heapCount, makePlainLabel, heapShape);
-    std::vector<double> kaHeap, plainHeap;
-    for (int r = 0; r < 3; ++r) {
-        kaHeap.push_back(bench::heapPerWidget(heapCount, makeKaLabel, heapShape));
-        plainHeap.push_back(bench::heapPerWidget(heapCount, makePlainLabel, heapShape));
-    }
-    const double kh = bench::median(kaHeap);
-    const double qh = bench::median(plainHeap);
+    const auto [kh, qh] = bench::compareHeap(heapCount, makeKaLabel, makePlainLabel);
     std::printf("info: heap per shown label, %d each: KaLabel %.0f bytes, QLabel %.0f bytes\n", heapCount, kh,
                 qh);
     std::printf("ratio: %.3f (bar: at most 1.5)\n", kh / qh);

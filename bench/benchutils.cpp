@@ -74,4 +74,28 @@ void flushEvents() {
     QCoreApplication::processEvents();
 }
 
+std::pair<double, double> compareCreation(int count, int rounds, const MakeWidget& ours,
+                                          const MakeWidget& plain) {
+    timeCreation(50, ours);
+    timeCreation(50, plain);
+    std::vector<double> a, b;
+    for (int r = 0; r < rounds; ++r) {
+        a.push_back(timeCreation(count, ours));
+        b.push_back(timeCreation(count, plain));
+    }
+    return {median(a), median(b)};
+}
+
+std::pair<double, double> compareHeap(int count, const MakeWidget& ours, const MakeWidget& plain) {
+    const GridShape shape{50, 2, QSize(1600, 1000)};
+    heapPerWidget(count, ours, shape);
+    heapPerWidget(count, plain, shape);
+    std::vector<double> a, b;
+    for (int r = 0; r < 3; ++r) {
+        a.push_back(heapPerWidget(count, ours, shape));
+        b.push_back(heapPerWidget(count, plain, shape));
+    }
+    return {median(a), median(b)};
+}
+
 } // namespace bench

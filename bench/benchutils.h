@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace bench {
@@ -36,6 +37,17 @@ double timeCreation(int count, const MakeWidget& make, const GridShape& shape = 
 // Large blocks (the window's backing store, which both sides of a
 // comparison pay once) are kept out of the count.
 double heapPerWidget(int count, const MakeWidget& make, const GridShape& shape = {});
+
+// Medians of `rounds` creations (timeCreation) of each side, alternating the
+// sides so that drift on a noisy machine hits both, after a small warm-up
+// (fonts, icons and theme caches are process-wide and paid once).
+std::pair<double, double> compareCreation(int count, int rounds, const MakeWidget& ours,
+                                          const MakeWidget& plain);
+
+// Medians of three heapPerWidget() rounds of each side in a wide grid, after
+// a warm-up at full size (the first grid of a size leaves process-wide
+// tables grown, and later grids reuse that room).
+std::pair<double, double> compareHeap(int count, const MakeWidget& ours, const MakeWidget& plain);
 
 // Deletes what is scheduled for deletion and settles posted events.
 void flushEvents();
