@@ -52,7 +52,9 @@ void appendDeclarations(QStringView body, QList<BzSheetReader::Declaration>* out
 BzSheetReader::BzSheetReader(const QString& text) {
     ++bzThemeCounters().templateParses;
     readHeader(text);
-    readRules(text);
+    // Behind a record header, the extra text is the record's extraCSS; its
+    // rules do not name the record's own colour sets.
+    readRules(m_hasHeader && m_extraStart >= 0 ? QStringView(text).left(m_extraStart) : QStringView(text));
 }
 
 void BzSheetReader::readHeader(const QString& text) {
@@ -82,8 +84,10 @@ void BzSheetReader::readHeader(const QString& text) {
     }
     const QLatin1String marker(extraMarker());
     const qsizetype extra = text.indexOf(marker, end);
-    if (extra >= 0)
+    if (extra >= 0) {
+        m_extraStart = extra;
         m_header.extraCSS = text.mid(extra + marker.size());
+    }
 }
 
 void BzSheetReader::readRules(QStringView text) {

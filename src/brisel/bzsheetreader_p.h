@@ -62,5 +62,6 @@ private:
 
     QList<Rule> m_rules;
     bool m_hasHeader = false;
+    qsizetype m_extraStart = -1;
     BzCSSData m_header;
 };

@@ -162,6 +162,9 @@ void TestBzThemeUtils::recordRoundTrip_data() {
     odd.switches = {{1, 8, 0, 0, 0, 1}}; // carried through as given
     odd.extraCSS = QStringLiteral("QLabel { padding: 2px; color: $(label-secondary-text); }");
     QTest::newRow("odd switches and extra rules") << odd;
+    BzCSSData tipOnly;
+    tipOnly.extraCSS = QStringLiteral("QToolTip { color: $(label-secondary-text); }");
+    QTest::newRow("extra rules name a set the record does not") << tipOnly;
 }
 
 void TestBzThemeUtils::recordRoundTrip() {
