@@ -54,6 +54,12 @@ public:
     QPointer<KaPopover> show(const QString& text, const KaWidgetData& data = KaWidgetData()) {
         return KaPopover::createAndShowTextPopover(&anchor, &window, text, data);
     }
+    std::unique_ptr<KaPopover> open(const KaWidgetData& data = KaWidgetData(), QWidget* content = nullptr) {
+        auto popover = std::make_unique<KaPopover>(&anchor, &window, data);
+        popover->setContentWidget(content ? content : new KaLabel(QStringLiteral("x")));
+        popover->popup();
+        return popover;
+    }
 
     QWidget window;
     QPushButton anchor{QStringLiteral("anchor"), &window};
@@ -84,11 +90,8 @@ private Q_SLOTS:
     void accessibleOpening_data();
     void accessibleOpening();
 
-    void autoDismissOnOutsideClick_data();
-    void autoDismissOnOutsideClick();
-    void clickOnAnchorKeepsIt();
-    void escape_data();
-    void escape();
+    void autoDismiss_data();
+    void autoDismiss();
     void timedDismissal();
     void dismissWithParentFocused_data();
     void dismissWithParentFocused();
@@ -236,13 +239,7 @@ void tst_KaPopover::alignmentAlongEdge() {
 void tst_KaPopover::offsetMoves() {
     Fixture f;
     QVERIFY(f.ready());
-    KaPopover plain(&f.anchor, &f.window);
-    plain.setContentWidget(new KaLabel(QStringLiteral("x")));
-    plain.popup();
-    KaPopover moved(&f.anchor, &f.window, KaWidgetData().offset(QPoint(5, -7)));
-    moved.setContentWidget(new KaLabel(QStringLiteral("x")));
-    moved.popup();
-    QCOMPARE(moved.pos(), plain.pos() + QPoint(5, -7));
+    QCOMPARE(f.open(KaWidgetData().offset(QPoint(5, -7)))->pos(), f.open()->pos() + QPoint(5, -7));
 }
 
 void tst_KaPopover::fitInMainWindow() {
@@ -250,22 +247,17 @@ void tst_KaPopover::fitInMainWindow() {
     QVERIFY(f.ready());
     f.anchor.move(250, 90); // near the window's right edge
     const KaWidgetData data = KaWidgetData().arrowPostion(KaWidgetData::ArrowBottom);
-    KaPopover loose(&f.anchor, &f.window, data);
-    loose.setContentWidget(new KaLabel(QStringLiteral("A fairly wide popover text")));
-    loose.popup();
-    QVERIFY(!f.window.geometry().contains(loose.geometry()));
-    KaPopover fitted(&f.anchor, &f.window, KaWidgetData(data).fitInMainWindowGeometry(true));
-    fitted.setContentWidget(new KaLabel(QStringLiteral("A fairly wide popover text")));
-    fitted.popup();
-    QCOMPARE(fitted.geometry().right(), f.window.geometry().right());
+    const QString wide = QStringLiteral("A fairly wide popover text");
+    QVERIFY(!f.window.geometry().contains(f.open(data, new KaLabel(wide))->geometry()));
+    const auto fitted = f.open(KaWidgetData(data).fitInMainWindowGeometry(true), new KaLabel(wide));
+    QCOMPARE(fitted->geometry().right(), f.window.geometry().right());
 }
 
 void tst_KaPopover::setArrowPosition() {
     Fixture f;
     QVERIFY(f.ready());
-    KaPopover popover(&f.anchor, &f.window);
-    popover.setContentWidget(new KaLabel(QStringLiteral("x")));
-    popover.popup();
+    const auto owner = f.open();
+    KaPopover& popover = *owner;
     QSignalSpy spy(&popover, &KaPopover::arrowPositionChanged);
     const QPoint below = popover.pos();
     popover.setArrowPosition(KaWidgetData::ArrowBottom);
@@ -356,8 +348,8 @@ void tst_KaPopover::accessibleOpening() {
     using AccessibilityRecorder::eventsOfType;
     QCOMPARE(eventsOfType(takeFocus ? QAccessible::DialogStart : QAccessible::PopupMenuStart, popover).size(),
              1);
-    const int focusEvents = eventsOfType(QAccessible::Focus, popover).size() +
-                            eventsOfType(QAccessible::Focus, content).size();
+    const int focusEvents =
+        eventsOfType(QAccessible::Focus, popover).size() + eventsOfType(QAccessible::Focus, content).size();
     QCOMPARE(focusEvents > 0, takeFocus);
     if (takeFocus)
         QCOMPARE(eventsOfType(QAccessible::Focus).last().object, form ? content : popover.data());
@@ -369,58 +361,37 @@ void tst_KaPopover::accessibleOpening() {
     QCOMPARE(eventsOfType(takeFocus ? QAccessible::DialogEnd : QAccessible::PopupMenuEnd, popover).size(), 1);
 }
 
-void tst_KaPopover::autoDismissOnOutsideClick_data() {
+void tst_KaPopover::autoDismiss_data() {
     QTest::addColumn<bool>("autoDismiss");
-    QTest::newRow("auto dismiss") << true;
-    QTest::newRow("stays") << false;
+    QTest::addColumn<bool>("escape"); // or a click outside
+    QTest::newRow("click, auto dismiss") << true << false;
+    QTest::newRow("click, stays") << false << false;
+    QTest::newRow("escape, auto dismiss") << true << true;
+    QTest::newRow("escape, stays") << false << true;
 }
 
-void tst_KaPopover::autoDismissOnOutsideClick() {
+void tst_KaPopover::autoDismiss() {
     QFETCH(bool, autoDismiss);
+    QFETCH(bool, escape);
     Fixture f;
     QVERIFY(f.ready());
     QPointer<KaPopover> popover =
         f.show(QStringLiteral("x"), KaWidgetData().autoDismiss(autoDismiss).dismissWithParentFocused(false));
     QSignalSpy dismissed(popover.data(), &KaPopover::dismissed);
-    // A click inside never dismisses.
+    // Clicks inside or on the anchor never dismiss.
     QTest::mouseClick(popover.data(), Qt::LeftButton, {}, popover->bodyRect().center());
+    QTest::mouseClick(&f.anchor, Qt::LeftButton);
     QVERIFY(popover->isVisible());
-    QTest::mouseClick(&f.other, Qt::LeftButton);
+    if (escape)
+        QTest::keyClick(popover.data(), Qt::Key_Escape);
+    else
+        QTest::mouseClick(&f.other, Qt::LeftButton);
     if (autoDismiss) {
         QCOMPARE(dismissed.count(), 1);
         QTRY_VERIFY(popover.isNull());
     } else {
         QVERIFY(popover->isVisible());
         QCOMPARE(dismissed.count(), 0);
-        popover->close();
-    }
-}
-
-void tst_KaPopover::clickOnAnchorKeepsIt() {
-    Fixture f;
-    QVERIFY(f.ready());
-    QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().dismissWithParentFocused(false));
-    QTest::mouseClick(&f.anchor, Qt::LeftButton);
-    QVERIFY(popover->isVisible());
-    popover->close();
-}
-
-void tst_KaPopover::escape_data() {
-    QTest::addColumn<bool>("autoDismiss");
-    QTest::newRow("auto dismiss") << true;
-    QTest::newRow("stays") << false;
-}
-
-void tst_KaPopover::escape() {
-    QFETCH(bool, autoDismiss);
-    Fixture f;
-    QVERIFY(f.ready());
-    QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().autoDismiss(autoDismiss));
-    QTest::keyClick(popover.data(), Qt::Key_Escape);
-    if (autoDismiss) {
-        QTRY_VERIFY(popover.isNull());
-    } else {
-        QVERIFY(popover->isVisible());
         popover->close();
     }
 }
@@ -565,16 +536,12 @@ void tst_KaPopover::transparentBackground() {
     QVERIFY(f.ready());
     const KaPopupUtils::PopupColors colors = KaPopupUtils::popupColors();
 
-    KaPopover bubble(&f.anchor, &f.window);
-    bubble.setContentWidget(new QWidget);
-    bubble.popup();
-    QVERIFY(bubble.testAttribute(Qt::WA_TranslucentBackground));
-    const QImage bubbleImage = bubble.grab().toImage();
-    QCOMPARE(qAlpha(bubbleImage.pixel(0, 0)), 0);
+    const auto bubble = f.open(KaWidgetData(), new QWidget);
+    QVERIFY(bubble->testAttribute(Qt::WA_TranslucentBackground));
+    QCOMPARE(qAlpha(bubble->grab().toImage().pixel(0, 0)), 0);
 
-    KaPopover opaque(&f.anchor, &f.window, KaWidgetData().shouldHaveTransparentBackground(false));
-    opaque.setContentWidget(new QWidget);
-    opaque.popup();
+    const auto owner = f.open(KaWidgetData().shouldHaveTransparentBackground(false), new QWidget);
+    KaPopover& opaque = *owner;
     QVERIFY(!opaque.testAttribute(Qt::WA_TranslucentBackground));
     QCOMPARE(opaque.bodyRect(), opaque.rect());
     const QImage opaqueImage = opaque.grab().toImage();
