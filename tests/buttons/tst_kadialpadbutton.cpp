@@ -47,34 +47,17 @@ void tst_KaDialpadButton::keypadLayout_data() {
     QTest::addColumn<QString>("letters");
     QTest::addColumn<QString>("alternate");
     QTest::addColumn<QString>("name");
-    QTest::newRow("1") << "1"
-                       << ""
-                       << ""
-                       << "1";
-    QTest::newRow("2") << "2"
-                       << "ABC"
-                       << ""
-                       << "2 ABC";
-    QTest::newRow("7") << "7"
-                       << "PQRS"
-                       << ""
-                       << "7 PQRS";
-    QTest::newRow("9") << "9"
-                       << "WXYZ"
-                       << ""
-                       << "9 WXYZ";
-    QTest::newRow("0") << "0"
-                       << "+"
-                       << "+"
-                       << "0 +";
-    QTest::newRow("star") << "*"
-                          << ""
-                          << ""
-                          << "*";
-    QTest::newRow("hash") << "#"
-                          << ""
-                          << ""
-                          << "#";
+    const auto row = [](const char* key, const char* letters, const char* alternate, const char* name) {
+        QTest::newRow(name) << QString::fromLatin1(key) << QString::fromLatin1(letters)
+                            << QString::fromLatin1(alternate) << QString::fromLatin1(name);
+    };
+    row("1", "", "", "1");
+    row("2", "ABC", "", "2 ABC");
+    row("7", "PQRS", "", "7 PQRS");
+    row("9", "WXYZ", "", "9 WXYZ");
+    row("0", "+", "+", "0 +");
+    row("*", "", "", "*");
+    row("#", "", "", "#");
 }
 
 void tst_KaDialpadButton::keypadLayout() {

@@ -1,7 +1,6 @@
 #include "buttontestutils.h"
 #include "kagifbutton.h"
 
-#include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -50,7 +49,6 @@ private Q_SLOTS:
     void hiddenStops();
     void shapeFollowsText();
     void unreadableFile();
-    void accessibility();
 };
 
 void tst_KaGifButton::loadsAnimation() {
@@ -144,16 +142,6 @@ void tst_KaGifButton::unreadableFile() {
     QCOMPARE(button.currentFrameNumber(), -1);
     button.resize(32, 32);
     rendered(&button);
-}
-
-void tst_KaGifButton::accessibility() {
-    KaGifButton button;
-    button.setFileName(threeFrames());
-    button.setAccessibleName(QStringLiteral("Celebrate"));
-    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&button);
-    QVERIFY(iface);
-    QCOMPARE(iface->role(), QAccessible::PushButton);
-    QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Celebrate"));
 }
 
 QTEST_MAIN(tst_KaGifButton)

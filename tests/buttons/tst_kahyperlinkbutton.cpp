@@ -1,7 +1,6 @@
 #include "buttontestutils.h"
 #include "kahyperlinkbutton.h"
 
-#include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
 #include <climits>
@@ -46,7 +45,6 @@ private Q_SLOTS:
     void alwaysUnderline();
     void geometryBySize();
     void iconWidensButton();
-    void accessibility();
 };
 
 void tst_KaHyperlinkButton::linkColours() {
@@ -136,14 +134,6 @@ void tst_KaHyperlinkButton::iconWidensButton() {
     QCOMPARE(link.sizeHint().width(), plain + 20);
     link.setLeftIcon(QString());
     QCOMPARE(link.sizeHint().width(), plain);
-}
-
-void tst_KaHyperlinkButton::accessibility() {
-    KaHyperlinkButton link(QStringLiteral("Privacy statement"));
-    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&link);
-    QVERIFY(iface);
-    QCOMPARE(iface->role(), QAccessible::PushButton);
-    QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Privacy statement"));
 }
 
 QTEST_MAIN(tst_KaHyperlinkButton)

@@ -31,7 +31,6 @@ private Q_SLOTS:
     void colourSets();
     void geometryBySize();
     void glyphs();
-    void neverTakesFocus();
 };
 
 void tst_KaTitleBarButton::minimiseActsOnWindow() {
@@ -122,6 +121,7 @@ void tst_KaTitleBarButton::colourSets_data() {
 void tst_KaTitleBarButton::colourSets() {
     QFETCH(int, type);
     KaTitleBarButton button{Config::Type(type)};
+    QCOMPARE(button.focusPolicy(), Qt::NoFocus);
     const QString background = button.getWCSS().backgroundColorSet;
     QVERIFY(!background.isEmpty());
     QVERIFY(!button.getWCSS().textColorSet.isEmpty());
@@ -176,11 +176,6 @@ void tst_KaTitleBarButton::glyphs() {
     QCOMPARE(image.pixel(15, 13), ink);
     QCOMPARE(image.pixel(24, 11), ink);
     QCOMPARE(qAlpha(image.pixel(15, 11)), 0);
-}
-
-void tst_KaTitleBarButton::neverTakesFocus() {
-    KaTitleBarButton button(Config::Close);
-    QCOMPARE(button.focusPolicy(), Qt::NoFocus);
 }
 
 QTEST_MAIN(tst_KaTitleBarButton)
