@@ -11,8 +11,11 @@ using namespace BzTest;
 
 namespace {
 
-// First and last column of the middle rows whose colour differs from `face`.
-QPair<int, int> inkColumns(const QImage& image, const QColor& face) {
+// First and last column of the middle rows whose colour differs from the
+// primary face.
+QPair<int, int> ink(QWidget& button) {
+    const QImage image = paint(button);
+    const QColor face = set("button-primary-background").normal();
     int first = -1;
     int last = -1;
     for (int y = image.height() / 4; y < image.height() * 3 / 4; ++y) {
@@ -41,481 +44,450 @@ public:
 class TestBzPushButton : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void faceFollowsState_data();
-    void faceFollowsState();
-    void textInTextColour();
-    void borderOnlyOnSwitchedSides_data();
-    void borderOnlyOnSwitchedSides();
-    void radius_data();
-    void radius();
-    void focusRadiusFollowsGeometry();
-    void elidesWhenNarrow_data();
-    void elidesWhenNarrow();
-    void textCacheFollowsChanges();
-    void textAlignment_data();
-    void textAlignment();
-    void sizeHintGrows();
-    void styleSheetPadding_data();
-    void styleSheetPadding();
-    void freeFormTemplateFrame();
-    void themeSwitchChangesFace();
-    void sameThemeSetsNoStyleSheet();
-    void hostStyleSheetSurvivesThemeSwitch();
-    void notifiesOnce();
-    void acceleratorType();
-    void fontTokenAndType();
-    void richText();
-    void ownFocusRing();
+    void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+
+    void faceFollowsState_data() {
+        QTest::addColumn<QString>("how");
+        QTest::addColumn<bool>("followState");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("normal") << "" << true << int(BzColorSet::Normal);
+        QTest::newRow("hovered") << "hover" << true << int(BzColorSet::Hovered);
+        QTest::newRow("pressed") << "press" << true << int(BzColorSet::Pressed);
+        QTest::newRow("disabled") << "disable" << true << int(BzColorSet::Disabled);
+        QTest::newRow("checked") << "check" << true << int(BzColorSet::Checked);
+        QTest::newRow("state tracking off") << "hover" << false << int(BzColorSet::Normal);
+        QTest::newRow("state tracking off, disabled") << "disable" << false << int(BzColorSet::Disabled);
+    }
+    void faceFollowsState() {
+        QFETCH(QString, how);
+        QFETCH(bool, followState);
+        QFETCH(int, expected);
+        BzPushButton button(QStringLiteral("OK"));
+        BzCSSData data = record("button-secondary-background", "button-secondary-text");
+        data.setSwitch(BzCSSData::FollowState, followState);
+        button.setCSS(data);
+        button.resize(80, 30);
+        if (how.contains(QLatin1String("check"))) {
+            button.setCheckable(true);
+            button.setChecked(true);
+        }
+        if (how.contains(QLatin1String("hover")))
+            button.setAttribute(Qt::WA_UnderMouse);
+        if (how.contains(QLatin1String("press")))
+            button.setDown(true);
+        if (how.contains(QLatin1String("disable")))
+            button.setEnabled(false);
+        const QColor face = paint(button).pixelColor(3, 15);
+        const QColor want = set("button-secondary-background").color(BzColorSet::State(expected));
+        QCOMPARE(face.name(QColor::HexArgb), want.name(QColor::HexArgb));
+    }
+
+    void textInTextColour() {
+        BzPushButton button(QStringLiteral("MMMM"));
+        button.setCSS(primary());
+        button.resize(100, 30);
+        QVERIFY(!boxOf(paint(button), set("button-primary-text").normal()).isEmpty());
+        // Without text nothing but the face is painted.
+        button.setText(QString());
+        QCOMPARE(ink(button).first, -1);
+    }
+
+    void borderOnlyOnSwitchedSides_data() {
+        QTest::addColumn<int>("sides"); // bit per side: top, right, bottom, left
+        QTest::newRow("top") << 0x1;
+        QTest::newRow("right") << 0x2;
+        QTest::newRow("bottom") << 0x4;
+        QTest::newRow("left") << 0x8;
+        QTest::newRow("top and bottom") << 0x5;
+        QTest::newRow("all") << 0xf;
+    }
+    void borderOnlyOnSwitchedSides() {
+        QFETCH(int, sides);
+        BzPushButton button;
+        BzCSSData data = record("button-secondary-background", "button-secondary-text");
+        data.borderColorSet = QStringLiteral("button-secondary-border");
+        data.borderWidth = 2;
+        for (int s = 0; s < 4; ++s)
+            data.setSwitch(BzCSSData::Switch(BzCSSData::BorderTop + s), (sides >> s) & 1);
+        button.setCSS(data);
+        button.resize(60, 30);
+        const QImage image = paint(button);
+        const QColor border = set("button-secondary-border").normal();
+        const QColor face = set("button-secondary-background").normal();
+        const QPoint probes[4] = {{30, 0}, {59, 15}, {30, 29}, {0, 15}};
+        for (int s = 0; s < 4; ++s) {
+            const QColor want = ((sides >> s) & 1) ? border : face;
+            QCOMPARE(image.pixelColor(probes[s]).name(), want.name());
+            // One pixel further in is face again: the line is borderWidth wide.
+            const QPoint inner = probes[s] + QPoint(s == 3   ? 2
+                                                    : s == 1 ? -2
+                                                             : 0,
+                                                    s == 0   ? 2
+                                                    : s == 2 ? -2
+                                                             : 0);
+            QCOMPARE(image.pixelColor(inner).name(), face.name());
+        }
+    }
+
+    void radius_data() {
+        QTest::addColumn<int>("radius");
+        QTest::addColumn<bool>("cornerPainted");
+        QTest::addColumn<qreal>("painted");
+        QTest::newRow("pill") << -1 << false << 15.0;
+        QTest::newRow("square") << 0 << true << 0.0;
+        QTest::newRow("six") << 6 << false << 6.0;
+        QTest::newRow("larger than half") << 40 << false << 15.0;
+    }
+    void radius() {
+        QFETCH(int, radius);
+        QFETCH(bool, cornerPainted);
+        QFETCH(qreal, painted);
+        BzPushButton button;
+        button.setCSS(primary(radius));
+        button.resize(80, 30);
+        const QImage image = paint(button);
+        QCOMPARE(image.pixelColor(0, 0).alpha() == 255, cornerPainted);
+        QCOMPARE(image.pixelColor(0, 0).alpha() == 0, !cornerPainted);
+        QCOMPARE(image.pixelColor(40, 15).rgb(), set("button-primary-background").normal().rgb());
+        QCOMPARE(button.borderRadius(), painted);
+        QCOMPARE(button.property("focusBorderRadius").toReal(), painted);
+    }
+
+    void focusRadiusFollowsGeometry() {
+        BzPushButton button;
+        button.show(); // hidden widgets get their resize events only when shown
+        // No record at all: still a pill.
+        button.resize(80, 30);
+        QCOMPARE(button.property("focusBorderRadius").toReal(), 15.0);
+        button.setCSS(primary(-1));
+        button.resize(80, 40);
+        QCOMPARE(button.property("focusBorderRadius").toReal(), 20.0);
+        button.setCSS(primary(4));
+        QCOMPARE(button.property("focusBorderRadius").toReal(), 4.0);
+    }
+
+    void elidesWhenNarrow_data() {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<bool>("keepsStart");
+        QTest::addColumn<bool>("keepsEnd");
+        QTest::newRow("right") << int(Qt::ElideRight) << true << false;
+        QTest::newRow("left") << int(Qt::ElideLeft) << false << true;
+        QTest::newRow("middle") << int(Qt::ElideMiddle) << true << true;
+        QTest::newRow("none") << int(Qt::ElideNone) << true << true;
+    }
+    void elidesWhenNarrow() {
+        QFETCH(int, mode);
+        QFETCH(bool, keepsStart);
+        QFETCH(bool, keepsEnd);
+        const QString text = QStringLiteral("The quick brown fox jumps over the lazy dog");
+        BzPushButton button(text);
+        button.setCSS(primary());
+        button.setElideMode(Qt::TextElideMode(mode));
+        button.setTextLeftPadding(10);
+        button.setTextRightPadding(10);
+        button.resize(button.sizeHint());
+        QCOMPARE(button.elidedText(), text);
+
+        button.resize(100, 30);
+        const QString shown = button.elidedText();
+        QCOMPARE(shown.startsWith(QLatin1String("The")), keepsStart);
+        QCOMPARE(shown.endsWith(QLatin1String("dog")), keepsEnd);
+        if (mode != Qt::ElideNone) {
+            QVERIFY(shown.contains(QChar(0x2026)));
+            QVERIFY(button.fontMetrics().horizontalAdvance(shown) <= 80);
+        }
+        // Elided or clipped, no ink lands in the paddings.
+        const auto columns = ink(button);
+        QVERIFY(columns.first >= 10);
+        QVERIFY2(columns.second < 90, qPrintable(QString::number(columns.second)));
+    }
+
+    void textCacheFollowsChanges() {
+        // Measurements are kept between paints; every input must drop them.
+        const QString text = QStringLiteral("The quick brown fox jumps over the lazy dog");
+        BzPushButton button(text);
+        button.setCSS(primary());
+        button.resize(100, 30);
+        const QString shown = button.elidedText();
+        QVERIFY(shown.startsWith(QLatin1String("The")));
+        const auto wideInk = ink(button);
+
+        button.setText(QStringLiteral("Jumps over the lazy dog, the quick brown fox"));
+        QVERIFY(button.elidedText().startsWith(QLatin1String("Jumps")));
+
+        button.setText(QStringLiteral("Hi"));
+        QCOMPARE(button.elidedText(), QStringLiteral("Hi"));
+        const auto shortInk = ink(button);
+        QVERIFY(shortInk.first > wideInk.first);
+
+        // A bigger font makes the same text wider.
+        QFont big = button.font();
+        big.setPixelSize(QFontInfo(big).pixelSize() * 3);
+        button.setFont(big);
+        const auto bigInk = ink(button);
+        QVERIFY(bigInk.second - bigInk.first > shortInk.second - shortInk.first);
+
+        // Same text, new font: the elision must be measured again.
+        button.setFont(QFont());
+        button.setText(text);
+        QCOMPARE(button.elidedText(), shown);
+        button.setFont(big);
+        QVERIFY(button.elidedText().size() < shown.size());
+        button.setFont(QFont());
+        button.resize(button.sizeHint());
+        QCOMPARE(button.elidedText(), text);
+        button.resize(100, 30);
+        QCOMPARE(button.elidedText(), shown);
+
+        button.setElideMode(Qt::ElideLeft);
+        QVERIFY(button.elidedText().endsWith(QLatin1String("dog")));
+        const QString left = button.elidedText();
+        button.setElidePadding(40);
+        QVERIFY(button.elidedText().size() < left.size());
+        button.setElideMode(Qt::ElideNone);
+        QCOMPARE(button.elidedText(), text);
+    }
+
+    void textAlignment_data() {
+        QTest::addColumn<int>("align");
+        QTest::addColumn<bool>("rtl");
+        QTest::addColumn<QString>("side");
+        QTest::newRow("left") << int(BzEnum::Left) << false << "left";
+        QTest::newRow("center") << int(BzEnum::Center) << false << "centre";
+        QTest::newRow("right") << int(BzEnum::Right) << false << "right";
+        QTest::newRow("left, rtl") << int(BzEnum::Left) << true << "right";
+        QTest::newRow("right, rtl") << int(BzEnum::Right) << true << "left";
+    }
+    void textAlignment() {
+        QFETCH(int, align);
+        QFETCH(bool, rtl);
+        QFETCH(QString, side);
+        BzPushButton button(QStringLiteral("Hi"));
+        button.setCSS(primary());
+        button.setTextHorAlign(BzEnum::HorAlign(align));
+        button.setTextLeftPadding(8);
+        button.setTextRightPadding(8);
+        if (rtl)
+            button.setLayoutDirection(Qt::RightToLeft);
+        button.resize(200, 30);
+        const auto columns = ink(button);
+        QVERIFY(columns.first >= 0);
+        if (side == QLatin1String("left"))
+            QVERIFY2(columns.first >= 8 && columns.first < 12, qPrintable(QString::number(columns.first)));
+        else if (side == QLatin1String("right"))
+            QVERIFY2(columns.second <= 191 && columns.second > 186,
+                     qPrintable(QString::number(columns.second)));
+        else
+            QVERIFY(qAbs((columns.first + columns.second) / 2 - 100) <= 2);
+    }
+
+    void sizeHintGrows() {
+        BzPushButton button(QStringLiteral("abc"));
+        const QSize base = button.sizeHint();
+        QVERIFY(base.height() > button.fontMetrics().height());
+
+        button.setText(QStringLiteral("abcdef"));
+        QVERIFY(button.sizeHint().width() > base.width());
+        button.setText(QStringLiteral("abc"));
+
+        button.setTextLeftPadding(10);
+        QCOMPARE(button.sizeHint().width(), base.width() + 10);
+        button.setTextRightPadding(7);
+        QCOMPARE(button.sizeHint().width(), base.width() + 17);
+        QTest::ignoreMessage(QtWarningMsg, "BzPushButton: negative text padding -4, using 0");
+        button.setTextRightPadding(-4);
+        QCOMPARE(button.textRightPadding(), 0);
+
+        button.setFontToken(BzFont::Headline);
+        QVERIFY(button.sizeHint().height() > base.height());
+
+        // Elided text may shrink to the ellipsis; unelided text may not.
+        button.setText(QStringLiteral("A rather long label"));
+        QVERIFY(button.minimumSizeHint().width() < button.sizeHint().width());
+        button.setElideMode(Qt::ElideNone);
+        QCOMPARE(button.minimumSizeHint(), button.sizeHint());
+    }
+
+    void styleSheetPadding_data() {
+        QTest::addColumn<QString>("extra");
+        QTest::addColumn<int>("wider");
+        QTest::newRow("own class") << "BzPushButton { padding-left: 16px; padding-right: 12px; }" << 28;
+        QTest::newRow("base class") << "QPushButton{padding-right:16;padding-left:16;}" << 32;
+        QTest::newRow("shorthand") << "BzPushButton { padding: 2px 5px; }" << 10;
+        QTest::newRow("object name") << "#probe { padding-left: 3px }" << 3;
+        QTest::newRow("other object name") << "#other { padding-left: 3px }" << 0;
+        QTest::newRow("other class") << "QToolTip { padding: 9px; }" << 0;
+        QTest::newRow("pseudo-state") << "BzPushButton:hover { padding: 9px; }" << 0;
+        QTest::newRow("later wins") << "BzPushButton { padding: 9px; } BzPushButton { padding-left: 1px; }"
+                                    << 10;
+    }
+    void styleSheetPadding() {
+        QFETCH(QString, extra);
+        QFETCH(int, wider);
+        BzPushButton button(QStringLiteral("Text"));
+        button.setObjectName(QStringLiteral("probe"));
+        button.setCSS(primary());
+        const int base = button.sizeHint().width();
+        BzCSSData data = primary();
+        data.extraCSS = extra;
+        button.setCSS(data);
+        // Paddings of the button's own rules are laid out without Qt's
+        // style-sheet engine; everything else still goes to it.
+        QCOMPARE(button.styleSheet().isEmpty(), wider > 0);
+        QCOMPARE(button.sizeHint().width(), base + wider);
+    }
+
+    void freeFormTemplateFrame() {
+        BzPushButton button;
+        button.setCSS(QStringLiteral("BzPushButton { background-color: $(button-secondary-background);"
+                                     " border: 2px solid $(button-secondary-border); border-radius: 5px;"
+                                     " padding-left: 20px; }"));
+        button.resize(80, 30);
+        QCOMPARE(button.borderRadius(), 5.0);
+        QCOMPARE(button.getWCSS().borderWidth, 2);
+        QVERIFY(button.getWCSS().hasAnyBorder());
+        const QImage image = paint(button);
+        QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+        QCOMPARE(image.pixelColor(0, 15).name(), set("button-secondary-border").normal().name());
+        QCOMPARE(image.pixelColor(40, 15).name(), set("button-secondary-background").normal().name());
+    }
+
+    void themeSwitchChangesFace() {
+        BzPushButton button(QStringLiteral("OK"));
+        button.setCSS(primary());
+        button.resize(80, 30);
+        const QColor light = paint(button).pixelColor(3, 15);
+        QCOMPARE(light.rgb(), set("button-primary-background").normal().rgb());
+        QSignalSpy css(&button, &BzPushButton::cssChanged);
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
+        const QColor dark = set("button-primary-background").normal();
+        QVERIFY(light.rgb() != dark.rgb());
+        QCOMPARE(paint(button).pixelColor(3, 15).rgb(), dark.rgb());
+        // The property write and the queued slot resolve once between them.
+        QCoreApplication::processEvents();
+        QCOMPARE(css.count(), 1);
+    }
+
+    void sameThemeSetsNoStyleSheet() {
+        BzPushButton button;
+        BzCSSData data = primary();
+        data.extraCSS = QStringLiteral("QToolTip { color: $(label-primary-text); }");
+        button.setCSS(data);
+        QVERIFY(!button.styleSheet().isEmpty());
+        StyleChangeCounter counter;
+        button.installEventFilter(&counter);
+        QSignalSpy css(&button, &BzPushButton::cssChanged);
+        BzThemeUtils::refreshWidgetThemes();
+        QCoreApplication::processEvents();
+        QCOMPARE(css.count(), 0); // nothing moved, nothing resolved
+        QCOMPARE(counter.count, 0);
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
+        QCOMPARE(css.count(), 1);
+        QCOMPARE(counter.count, 1); // the colour in the extra text did change
+    }
+
+    void hostStyleSheetSurvivesThemeSwitch() {
+        BzPushButton button(QStringLiteral("Text"));
+        const int bare = button.sizeHint().width();
+        const QString sheet = QStringLiteral("BzPushButton { padding-left: 10px; }");
+        button.setStyleSheet(sheet);
+        QCOMPARE(button.sizeHint().width(), bare + 10);
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
+        QCoreApplication::processEvents();
+        QCOMPARE(button.styleSheet(), sheet);
+        QCOMPARE(button.sizeHint().width(), bare + 10);
+    }
+
+    void notifiesOnce() {
+        BzPushButton button;
+        // "css" is left out: writing it always re-resolves, and says so.
+        checkNotifiesOnce(button, BzPushButton::staticMetaObject,
+                          {{QStringLiteral("css"), QVariant()},
+                           {QStringLiteral("focusRectColorSet"), QStringLiteral("global-focus-outline")}});
+    }
+
+    void acceleratorType() {
+        BzPushButton withMarker(QStringLiteral("&Save"));
+        BzPushButton plain(QStringLiteral("Save"));
+        for (BzPushButton* b : {&withMarker, &plain}) {
+            b->setCSS(primary());
+            b->resize(80, 30);
+        }
+        QCOMPARE(withMarker.sizeHint(), plain.sizeHint());
+        // Type 0 hides the marker entirely...
+        QCOMPARE(paint(withMarker), paint(plain));
+        // ...type 2 underlines the S.
+        withMarker.setAcceleratorType(BzPushButton::AlwaysUnderlined);
+        QVERIFY(paint(withMarker) != paint(plain));
+
+        QTest::ignoreMessage(QtWarningMsg, "BzPushButton: unknown accelerator type 7, using 0");
+        withMarker.setAcceleratorType(7);
+        QCOMPARE(withMarker.getAcceleratorType(), 0);
+    }
+
+    void fontTokenAndType() {
+        BzPushButton button;
+        QCOMPARE(button.fontToken(), BzFont::Button);
+        QCOMPARE(button.font().pixelSize(), BzFont::pixelSizeOf(BzFont::Button));
+        QSignalSpy token(&button, &BzPushButton::fontTokenChanged);
+        button.setFontToken(BzFont::Title, false);
+        QCOMPARE(token.count(), 1);
+        QCOMPARE(button.font().pixelSize(), BzFont::pixelSizeOf(BzFont::Title));
+        QCOMPARE(button.font().weight(), BzFont::weightOf(BzFont::Title));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("42")));
+        button.setFontToken(42);
+        QCOMPARE(int(button.fontToken()), BzFont::TokenCount - 1);
+
+        // A scaled font follows the text scale afterwards.
+        button.setFontToken(BzFont::Body);
+        button.setFontType(FontManagerEnum::Scaled);
+        BzFontManager::instance()->setTextScale(1.5);
+        QCOMPARE(button.font().pixelSize(), BzFont::scaledPixelSizeOf(BzFont::Body, 1.5));
+        button.setFontType(FontManagerEnum::None);
+        BzFontManager::instance()->setTextScale(1.0);
+        QCOMPARE(button.font().pixelSize(), BzFont::pixelSizeOf(BzFont::Body));
+        BzFontManager::instance()->setTextScale(2.0);
+        QCOMPARE(button.font().pixelSize(), BzFont::pixelSizeOf(BzFont::Body));
+        BzFontManager::instance()->setTextScale(1.0);
+    }
+
+    void richText() {
+        const QString html = QStringLiteral("<b>Bold</b> text");
+        BzPushButton button(html);
+        button.setCSS(primary());
+        const int asPlain = button.sizeHint().width();
+        button.setTextFormat(Qt::RichText);
+        const int asRich = button.sizeHint().width();
+        QVERIFY(asRich < asPlain); // the tags are markup, not text
+        button.resize(button.sizeHint());
+        // The rich text is painted in the text colour.
+        QVERIFY(!boxOf(paint(button), set("button-primary-text").normal()).isEmpty());
+    }
+
+    void ownFocusRing() {
+        QWidget window;
+        BzPushButton button(QStringLiteral("OK"), &window);
+        BzPushButton other(QStringLiteral("Other"), &window);
+        other.move(0, 40);
+        button.setCSS(primary());
+        button.resize(80, 30);
+        button.setFocusRectColorSet(QStringLiteral("global-focus-outline"));
+        window.resize(100, 80);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.setAttribute(Qt::WA_KeyboardFocusChange);
+        button.setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(button.hasFocus());
+        const BzColorSet ring = set("global-focus-outline");
+        const QColor focused = ring.colorFor(QStyle::State_Enabled | QStyle::State_HasFocus);
+        QCOMPARE(focused.rgb(), ring.focused().rgb());
+        button.setAttribute(Qt::WA_UnderMouse, false); // hover would outrank focus
+        QCOMPARE(paint(button).pixelColor(1, 15).rgb(), focused.rgb());
+        other.setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(!button.hasFocus());
+        QCOMPARE(paint(button).pixelColor(1, 15).rgb(), set("button-primary-background").normal().rgb());
+    }
 };
-
-void TestBzPushButton::init() {
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-}
-
-void TestBzPushButton::faceFollowsState_data() {
-    QTest::addColumn<QString>("how");
-    QTest::addColumn<bool>("followState");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("normal") << "" << true << int(BzColorSet::Normal);
-    QTest::newRow("hovered") << "hover" << true << int(BzColorSet::Hovered);
-    QTest::newRow("pressed") << "press" << true << int(BzColorSet::Pressed);
-    QTest::newRow("disabled") << "disable" << true << int(BzColorSet::Disabled);
-    QTest::newRow("checked") << "check" << true << int(BzColorSet::Checked);
-    QTest::newRow("state tracking off") << "hover" << false << int(BzColorSet::Normal);
-    QTest::newRow("state tracking off, disabled") << "disable" << false << int(BzColorSet::Disabled);
-}
-
-void TestBzPushButton::faceFollowsState() {
-    QFETCH(QString, how);
-    QFETCH(bool, followState);
-    QFETCH(int, expected);
-    BzPushButton button(QStringLiteral("OK"));
-    BzCSSData data = record("button-secondary-background", "button-secondary-text");
-    data.setSwitch(BzCSSData::FollowState, followState);
-    button.setCSS(data);
-    button.resize(80, 30);
-    if (how.contains(QLatin1String("check"))) {
-        button.setCheckable(true);
-        button.setChecked(true);
-    }
-    if (how.contains(QLatin1String("hover")))
-        button.setAttribute(Qt::WA_UnderMouse);
-    if (how.contains(QLatin1String("press")))
-        button.setDown(true);
-    if (how.contains(QLatin1String("disable")))
-        button.setEnabled(false);
-    const QColor face = paint(button).pixelColor(3, 15);
-    const QColor want = set("button-secondary-background").color(BzColorSet::State(expected));
-    QCOMPARE(face.name(QColor::HexArgb), want.name(QColor::HexArgb));
-}
-
-void TestBzPushButton::textCacheFollowsChanges() {
-    // Measurements are kept between paints; every input must drop them.
-    const QString text = QStringLiteral("The quick brown fox jumps over the lazy dog");
-    BzPushButton button(text);
-    button.setCSS(primary());
-    button.resize(100, 30);
-    const auto ink = [&button] {
-        return inkColumns(paint(button), set("button-primary-background").normal());
-    };
-    const QString shown = button.elidedText();
-    QVERIFY(shown.startsWith(QLatin1String("The")));
-    const auto wideInk = ink();
-
-    button.setText(QStringLiteral("Jumps over the lazy dog, the quick brown fox"));
-    QVERIFY(button.elidedText().startsWith(QLatin1String("Jumps")));
-
-    button.setText(QStringLiteral("Hi"));
-    QCOMPARE(button.elidedText(), QStringLiteral("Hi"));
-    const auto shortInk = ink();
-    QVERIFY(shortInk.first > wideInk.first);
-
-    // A bigger font makes the same text wider.
-    QFont big = button.font();
-    big.setPixelSize(QFontInfo(big).pixelSize() * 3);
-    button.setFont(big);
-    const auto bigInk = ink();
-    QVERIFY(bigInk.second - bigInk.first > shortInk.second - shortInk.first);
-
-    // Same text, new font: the elision must be measured again.
-    button.setFont(QFont());
-    button.setText(text);
-    QCOMPARE(button.elidedText(), shown);
-    button.setFont(big);
-    QVERIFY(button.elidedText().size() < shown.size());
-    button.setFont(QFont());
-    button.resize(button.sizeHint());
-    QCOMPARE(button.elidedText(), text);
-    button.resize(100, 30);
-    QCOMPARE(button.elidedText(), shown);
-
-    button.setElideMode(Qt::ElideLeft);
-    QVERIFY(button.elidedText().endsWith(QLatin1String("dog")));
-    const QString left = button.elidedText();
-    button.setElidePadding(40);
-    QVERIFY(button.elidedText().size() < left.size());
-    button.setElideMode(Qt::ElideNone);
-    QCOMPARE(button.elidedText(), text);
-}
-
-void TestBzPushButton::textInTextColour() {
-    BzPushButton button(QStringLiteral("MMMM"));
-    button.setCSS(primary());
-    button.resize(100, 30);
-    QVERIFY(!boxOf(paint(button), set("button-primary-text").normal()).isEmpty());
-    // Without text nothing but the face is painted.
-    button.setText(QString());
-    QCOMPARE(inkColumns(paint(button), set("button-primary-background").normal()).first, -1);
-}
-
-void TestBzPushButton::borderOnlyOnSwitchedSides_data() {
-    QTest::addColumn<int>("sides"); // bit per side: top, right, bottom, left
-    QTest::newRow("top") << 0x1;
-    QTest::newRow("right") << 0x2;
-    QTest::newRow("bottom") << 0x4;
-    QTest::newRow("left") << 0x8;
-    QTest::newRow("top and bottom") << 0x5;
-    QTest::newRow("all") << 0xf;
-}
-
-void TestBzPushButton::borderOnlyOnSwitchedSides() {
-    QFETCH(int, sides);
-    BzPushButton button;
-    BzCSSData data = record("button-secondary-background", "button-secondary-text");
-    data.borderColorSet = QStringLiteral("button-secondary-border");
-    data.borderWidth = 2;
-    for (int s = 0; s < 4; ++s)
-        data.setSwitch(BzCSSData::Switch(BzCSSData::BorderTop + s), (sides >> s) & 1);
-    button.setCSS(data);
-    button.resize(60, 30);
-    const QImage image = paint(button);
-    const QColor border = set("button-secondary-border").normal();
-    const QColor face = set("button-secondary-background").normal();
-    const QPoint probes[4] = {{30, 0}, {59, 15}, {30, 29}, {0, 15}};
-    for (int s = 0; s < 4; ++s) {
-        const QColor want = ((sides >> s) & 1) ? border : face;
-        QCOMPARE(image.pixelColor(probes[s]).name(), want.name());
-        // One pixel further in is face again: the line is borderWidth wide.
-        const QPoint inner = probes[s] + QPoint(s == 3 ? 2 : s == 1 ? -2 : 0, s == 0 ? 2 : s == 2 ? -2 : 0);
-        QCOMPARE(image.pixelColor(inner).name(), face.name());
-    }
-}
-
-void TestBzPushButton::radius_data() {
-    QTest::addColumn<int>("radius");
-    QTest::addColumn<bool>("cornerPainted");
-    QTest::addColumn<qreal>("painted");
-    QTest::newRow("pill") << -1 << false << 15.0;
-    QTest::newRow("square") << 0 << true << 0.0;
-    QTest::newRow("six") << 6 << false << 6.0;
-    QTest::newRow("larger than half") << 40 << false << 15.0;
-}
-
-void TestBzPushButton::radius() {
-    QFETCH(int, radius);
-    QFETCH(bool, cornerPainted);
-    QFETCH(qreal, painted);
-    BzPushButton button;
-    button.setCSS(primary(radius));
-    button.resize(80, 30);
-    const QImage image = paint(button);
-    QCOMPARE(image.pixelColor(0, 0).alpha() == 255, cornerPainted);
-    QCOMPARE(image.pixelColor(0, 0).alpha() == 0, !cornerPainted);
-    QCOMPARE(image.pixelColor(40, 15).rgb(), set("button-primary-background").normal().rgb());
-    QCOMPARE(button.borderRadius(), painted);
-    QCOMPARE(button.property("focusBorderRadius").toReal(), painted);
-}
-
-void TestBzPushButton::focusRadiusFollowsGeometry() {
-    BzPushButton button;
-    button.show(); // hidden widgets get their resize events only when shown
-    // No record at all: still a pill.
-    button.resize(80, 30);
-    QCOMPARE(button.property("focusBorderRadius").toReal(), 15.0);
-    button.setCSS(primary(-1));
-    button.resize(80, 40);
-    QCOMPARE(button.property("focusBorderRadius").toReal(), 20.0);
-    button.setCSS(primary(4));
-    QCOMPARE(button.property("focusBorderRadius").toReal(), 4.0);
-}
-
-void TestBzPushButton::elidesWhenNarrow_data() {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("keepsStart");
-    QTest::addColumn<bool>("keepsEnd");
-    QTest::newRow("right") << int(Qt::ElideRight) << true << false;
-    QTest::newRow("left") << int(Qt::ElideLeft) << false << true;
-    QTest::newRow("middle") << int(Qt::ElideMiddle) << true << true;
-    QTest::newRow("none") << int(Qt::ElideNone) << true << true;
-}
-
-void TestBzPushButton::elidesWhenNarrow() {
-    QFETCH(int, mode);
-    QFETCH(bool, keepsStart);
-    QFETCH(bool, keepsEnd);
-    const QString text = QStringLiteral("The quick brown fox jumps over the lazy dog");
-    BzPushButton button(text);
-    button.setCSS(primary());
-    button.setElideMode(Qt::TextElideMode(mode));
-    button.setTextLeftPadding(10);
-    button.setTextRightPadding(10);
-    button.resize(button.sizeHint());
-    QCOMPARE(button.elidedText(), text);
-
-    button.resize(100, 30);
-    const QString shown = button.elidedText();
-    QCOMPARE(shown.startsWith(QLatin1String("The")), keepsStart);
-    QCOMPARE(shown.endsWith(QLatin1String("dog")), keepsEnd);
-    if (mode != Qt::ElideNone) {
-        QVERIFY(shown.contains(QChar(0x2026)));
-        QVERIFY(button.fontMetrics().horizontalAdvance(shown) <= 80);
-    }
-    // Elided or clipped, no ink lands in the paddings.
-    const auto ink = inkColumns(paint(button), set("button-primary-background").normal());
-    QVERIFY(ink.first >= 10);
-    QVERIFY2(ink.second < 90, qPrintable(QString::number(ink.second)));
-}
-
-void TestBzPushButton::textAlignment_data() {
-    QTest::addColumn<int>("align");
-    QTest::addColumn<bool>("rtl");
-    QTest::addColumn<QString>("side");
-    QTest::newRow("left") << int(BzEnum::Left) << false << "left";
-    QTest::newRow("center") << int(BzEnum::Center) << false << "centre";
-    QTest::newRow("right") << int(BzEnum::Right) << false << "right";
-    QTest::newRow("left, rtl") << int(BzEnum::Left) << true << "right";
-    QTest::newRow("right, rtl") << int(BzEnum::Right) << true << "left";
-}
-
-void TestBzPushButton::textAlignment() {
-    QFETCH(int, align);
-    QFETCH(bool, rtl);
-    QFETCH(QString, side);
-    BzPushButton button(QStringLiteral("Hi"));
-    button.setCSS(primary());
-    button.setTextHorAlign(BzEnum::HorAlign(align));
-    button.setTextLeftPadding(8);
-    button.setTextRightPadding(8);
-    if (rtl)
-        button.setLayoutDirection(Qt::RightToLeft);
-    button.resize(200, 30);
-    const auto ink = inkColumns(paint(button), set("button-primary-background").normal());
-    QVERIFY(ink.first >= 0);
-    if (side == QLatin1String("left"))
-        QVERIFY2(ink.first >= 8 && ink.first < 12, qPrintable(QString::number(ink.first)));
-    else if (side == QLatin1String("right"))
-        QVERIFY2(ink.second <= 191 && ink.second > 186, qPrintable(QString::number(ink.second)));
-    else
-        QVERIFY(qAbs((ink.first + ink.second) / 2 - 100) <= 2);
-}
-
-void TestBzPushButton::sizeHintGrows() {
-    BzPushButton button(QStringLiteral("abc"));
-    const QSize base = button.sizeHint();
-    QVERIFY(base.height() > button.fontMetrics().height());
-
-    button.setText(QStringLiteral("abcdef"));
-    QVERIFY(button.sizeHint().width() > base.width());
-    button.setText(QStringLiteral("abc"));
-
-    button.setTextLeftPadding(10);
-    QCOMPARE(button.sizeHint().width(), base.width() + 10);
-    button.setTextRightPadding(7);
-    QCOMPARE(button.sizeHint().width(), base.width() + 17);
-    QTest::ignoreMessage(QtWarningMsg, "BzPushButton: negative text padding -4, using 0");
-    button.setTextRightPadding(-4);
-    QCOMPARE(button.textRightPadding(), 0);
-
-    button.setFontToken(BzFont::Headline);
-    QVERIFY(button.sizeHint().height() > base.height());
-
-    // Elided text may shrink to the ellipsis; unelided text may not.
-    button.setText(QStringLiteral("A rather long label"));
-    QVERIFY(button.minimumSizeHint().width() < button.sizeHint().width());
-    button.setElideMode(Qt::ElideNone);
-    QCOMPARE(button.minimumSizeHint(), button.sizeHint());
-}
-
-void TestBzPushButton::styleSheetPadding_data() {
-    QTest::addColumn<QString>("extra");
-    QTest::addColumn<int>("wider");
-    QTest::newRow("own class") << "BzPushButton { padding-left: 16px; padding-right: 12px; }" << 28;
-    QTest::newRow("base class") << "QPushButton{padding-right:16;padding-left:16;}" << 32;
-    QTest::newRow("shorthand") << "BzPushButton { padding: 2px 5px; }" << 10;
-    QTest::newRow("object name") << "#probe { padding-left: 3px }" << 3;
-    QTest::newRow("other object name") << "#other { padding-left: 3px }" << 0;
-    QTest::newRow("other class") << "QToolTip { padding: 9px; }" << 0;
-    QTest::newRow("pseudo-state") << "BzPushButton:hover { padding: 9px; }" << 0;
-    QTest::newRow("later wins") << "BzPushButton { padding: 9px; } BzPushButton { padding-left: 1px; }" << 10;
-}
-
-void TestBzPushButton::styleSheetPadding() {
-    QFETCH(QString, extra);
-    QFETCH(int, wider);
-    BzPushButton button(QStringLiteral("Text"));
-    button.setObjectName(QStringLiteral("probe"));
-    button.setCSS(primary());
-    const int base = button.sizeHint().width();
-    BzCSSData data = primary();
-    data.extraCSS = extra;
-    button.setCSS(data);
-    // Paddings of the button's own rules are laid out without Qt's
-    // style-sheet engine; everything else still goes to it.
-    QCOMPARE(button.styleSheet().isEmpty(), wider > 0);
-    QCOMPARE(button.sizeHint().width(), base + wider);
-}
-
-void TestBzPushButton::freeFormTemplateFrame() {
-    BzPushButton button;
-    button.setCSS(QStringLiteral("BzPushButton { background-color: $(button-secondary-background);"
-                                 " border: 2px solid $(button-secondary-border); border-radius: 5px;"
-                                 " padding-left: 20px; }"));
-    button.resize(80, 30);
-    QCOMPARE(button.borderRadius(), 5.0);
-    QCOMPARE(button.getWCSS().borderWidth, 2);
-    QVERIFY(button.getWCSS().hasAnyBorder());
-    const QImage image = paint(button);
-    QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
-    QCOMPARE(image.pixelColor(0, 15).name(), set("button-secondary-border").normal().name());
-    QCOMPARE(image.pixelColor(40, 15).name(), set("button-secondary-background").normal().name());
-}
-
-void TestBzPushButton::themeSwitchChangesFace() {
-    BzPushButton button(QStringLiteral("OK"));
-    button.setCSS(primary());
-    button.resize(80, 30);
-    const QColor light = paint(button).pixelColor(3, 15);
-    QCOMPARE(light.rgb(), set("button-primary-background").normal().rgb());
-    QSignalSpy css(&button, &BzPushButton::cssChanged);
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
-    const QColor dark = set("button-primary-background").normal();
-    QVERIFY(light.rgb() != dark.rgb());
-    QCOMPARE(paint(button).pixelColor(3, 15).rgb(), dark.rgb());
-    // The property write and the queued slot resolve once between them.
-    QCoreApplication::processEvents();
-    QCOMPARE(css.count(), 1);
-}
-
-void TestBzPushButton::sameThemeSetsNoStyleSheet() {
-    BzPushButton button;
-    BzCSSData data = primary();
-    data.extraCSS = QStringLiteral("QToolTip { color: $(label-primary-text); }");
-    button.setCSS(data);
-    QVERIFY(!button.styleSheet().isEmpty());
-    StyleChangeCounter counter;
-    button.installEventFilter(&counter);
-    QSignalSpy css(&button, &BzPushButton::cssChanged);
-    BzThemeUtils::refreshWidgetThemes();
-    QCoreApplication::processEvents();
-    QCOMPARE(css.count(), 0); // nothing moved, nothing resolved
-    QCOMPARE(counter.count, 0);
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
-    QCOMPARE(css.count(), 1);
-    QCOMPARE(counter.count, 1); // the colour in the extra text did change
-}
-
-void TestBzPushButton::hostStyleSheetSurvivesThemeSwitch() {
-    BzPushButton button(QStringLiteral("Text"));
-    const int bare = button.sizeHint().width();
-    const QString sheet = QStringLiteral("BzPushButton { padding-left: 10px; }");
-    button.setStyleSheet(sheet);
-    QCOMPARE(button.sizeHint().width(), bare + 10);
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
-    QCoreApplication::processEvents();
-    QCOMPARE(button.styleSheet(), sheet);
-    QCOMPARE(button.sizeHint().width(), bare + 10);
-}
-
-void TestBzPushButton::notifiesOnce() {
-    BzPushButton button;
-    // "css" is left out: writing it always re-resolves, and says so.
-    checkNotifiesOnce(button, BzPushButton::staticMetaObject,
-                      {{QStringLiteral("css"), QVariant()},
-                       {QStringLiteral("focusRectColorSet"), QStringLiteral("global-focus-outline")}});
-}
-
-void TestBzPushButton::acceleratorType() {
-    BzPushButton withMarker(QStringLiteral("&Save"));
-    BzPushButton plain(QStringLiteral("Save"));
-    for (BzPushButton* b : {&withMarker, &plain}) {
-        b->setCSS(primary());
-        b->resize(80, 30);
-    }
-    QCOMPARE(withMarker.sizeHint(), plain.sizeHint());
-    // Type 0 hides the marker entirely...
-    QCOMPARE(paint(withMarker), paint(plain));
-    // ...type 2 underlines the S.
-    withMarker.setAcceleratorType(BzPushButton::AlwaysUnderlined);
-    QVERIFY(paint(withMarker) != paint(plain));
-
-    QTest::ignoreMessage(QtWarningMsg, "BzPushButton: unknown accelerator type 7, using 0");
-    withMarker.setAcceleratorType(7);
-    QCOMPARE(withMarker.getAcceleratorType(), 0);
-}
-
-void TestBzPushButton::fontTokenAndType() {
-    BzPushButton button;
-    QCOMPARE(button.fontToken(), BzFont::Button);
-    QCOMPARE(button.font().pixelSize(), BzFont::pixelSizeOf(BzFont::Button));
-    QSignalSpy token(&button, &BzPushButton::fontTokenChanged);
-    button.setFontToken(BzFont::Title, false);
-    QCOMPARE(token.count(), 1);
-    QCOMPARE(button.font().pixelSize(), BzFont::pixelSizeOf(BzFont::Title));
-    QCOMPARE(button.font().weight(), BzFont::weightOf(BzFont::Title));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("42")));
-    button.setFontToken(42);
-    QCOMPARE(int(button.fontToken()), BzFont::TokenCount - 1);
-
-    // A scaled font follows the text scale afterwards.
-    button.setFontToken(BzFont::Body);
-    button.setFontType(FontManagerEnum::Scaled);
-    BzFontManager::instance()->setTextScale(1.5);
-    QCOMPARE(button.font().pixelSize(), BzFont::scaledPixelSizeOf(BzFont::Body, 1.5));
-    button.setFontType(FontManagerEnum::None);
-    BzFontManager::instance()->setTextScale(1.0);
-    QCOMPARE(button.font().pixelSize(), BzFont::pixelSizeOf(BzFont::Body));
-    BzFontManager::instance()->setTextScale(2.0);
-    QCOMPARE(button.font().pixelSize(), BzFont::pixelSizeOf(BzFont::Body));
-    BzFontManager::instance()->setTextScale(1.0);
-}
-
-void TestBzPushButton::richText() {
-    const QString html = QStringLiteral("<b>Bold</b> text");
-    BzPushButton button(html);
-    button.setCSS(primary());
-    const int asPlain = button.sizeHint().width();
-    button.setTextFormat(Qt::RichText);
-    const int asRich = button.sizeHint().width();
-    QVERIFY(asRich < asPlain); // the tags are markup, not text
-    button.resize(button.sizeHint());
-    // The rich text is painted in the text colour.
-    QVERIFY(!boxOf(paint(button), set("button-primary-text").normal()).isEmpty());
-}
-
-void TestBzPushButton::ownFocusRing() {
-    QWidget window;
-    BzPushButton button(QStringLiteral("OK"), &window);
-    BzPushButton other(QStringLiteral("Other"), &window);
-    other.move(0, 40);
-    button.setCSS(primary());
-    button.resize(80, 30);
-    button.setFocusRectColorSet(QStringLiteral("global-focus-outline"));
-    window.resize(100, 80);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    window.setAttribute(Qt::WA_KeyboardFocusChange);
-    button.setFocus(Qt::TabFocusReason);
-    QTRY_VERIFY(button.hasFocus());
-    const BzColorSet ring = set("global-focus-outline");
-    const QColor focused = ring.colorFor(QStyle::State_Enabled | QStyle::State_HasFocus);
-    QCOMPARE(focused.rgb(), ring.focused().rgb());
-    button.setAttribute(Qt::WA_UnderMouse, false); // hover would outrank focus
-    QCOMPARE(paint(button).pixelColor(1, 15).rgb(), focused.rgb());
-    other.setFocus(Qt::TabFocusReason);
-    QTRY_VERIFY(!button.hasFocus());
-    QCOMPARE(paint(button).pixelColor(1, 15).rgb(), set("button-primary-background").normal().rgb());
-}
 
 QTEST_MAIN(TestBzPushButton)
 #include "tst_bzpushbutton.moc"
