@@ -20,22 +20,17 @@ QImage render(CustomFocusOverlay* overlay) {
     return overlay->grab().toImage().convertToFormat(QImage::Format_ARGB32);
 }
 
+QRgb colourOf(const QString& theme, const std::string& set) {
+    const auto sets = BzThemeManager::instance()->theme(theme).colorSets();
+    return sets.value(QString::fromStdString(set)).normal().rgba();
+}
+
 QRgb outerOf(const QString& theme) {
-    return BzThemeManager::instance()
-        ->theme(theme)
-        .colorSets()
-        .value(QString::fromStdString(kOuter))
-        .normal()
-        .rgba();
+    return colourOf(theme, kOuter);
 }
 
 QRgb innerOf(const QString& theme) {
-    return BzThemeManager::instance()
-        ->theme(theme)
-        .colorSets()
-        .value(QString::fromStdString(kInner))
-        .normal()
-        .rgba();
+    return colourOf(theme, kInner);
 }
 
 } // namespace

@@ -85,9 +85,8 @@ private Q_SLOTS:
     void simulateKeyEventNullTarget();
     void simulateKeyEventTargetDeleted();
 
-    void updateThemesRewritesCss();
-    void updateThemesSkipsEmptyCss();
-    void updateThemesLeavesOtherWidgetsAlone();
+    void updateThemes_data();
+    void updateThemes();
     void updateThemesWidgetDeletedBeforeDelivery();
 };
 
@@ -208,57 +207,39 @@ void tst_KarvexUtils::simulateKeyEventTargetDeleted() {
     QVERIFY(doomedKeys.keys.isEmpty());
 }
 
-void tst_KarvexUtils::updateThemesRewritesCss() {
+void tst_KarvexUtils::updateThemes_data() {
+    QTest::addColumn<QVariant>("css");
+    QTest::addColumn<bool>("themed");
+    const QVariant css(QStringLiteral("QWidget { background: $(panel-primary-background); }"));
+    QTest::newRow("css and slot") << css << true;
+    QTest::newRow("empty css") << QVariant(QString()) << true;
+    QTest::newRow("css, no slot") << css << false;
+    QTest::newRow("neither") << QVariant() << false;
+}
+
+// A non-empty "css" is written again (unchanged); the slot is queued, once.
+void tst_KarvexUtils::updateThemes() {
+    QFETCH(QVariant, css);
+    QFETCH(bool, themed);
     int calls = 0;
-    ThemedWidget widget(&calls);
-    const QString css = QStringLiteral("QWidget { background: $(panel-primary-background); }");
-    widget.setProperty("css", css);
+    std::unique_ptr<QWidget> widget(themed ? new ThemedWidget(&calls) : new QWidget);
+    if (css.isValid())
+        widget->setProperty("css", css);
     PropertyChangeCounter properties;
-    widget.installEventFilter(&properties);
+    widget->installEventFilter(&properties);
+    const bool rewritten = !css.toString().isEmpty();
 
     KarvexUtils::updateSolvaneThemes();
 
-    QVERIFY2(properties.cssChanges >= 1, "\"css\" was not written again");
+    QCOMPARE(properties.cssChanges > 0, rewritten);
     QCOMPARE(properties.otherChanges, 0);
-    QCOMPARE(widget.property("css").toString(), css);
+    QCOMPARE(widget->property("css"), css);
     QCOMPARE(calls, 0); // queued, not called
-    QTRY_COMPARE(calls, 1);
+    if (themed)
+        QTRY_COMPARE(calls, 1);
     QCoreApplication::processEvents();
-    QCOMPARE(calls, 1);
-}
-
-void tst_KarvexUtils::updateThemesSkipsEmptyCss() {
-    int calls = 0;
-    ThemedWidget widget(&calls);
-    widget.setProperty("css", QString());
-    PropertyChangeCounter properties;
-    widget.installEventFilter(&properties);
-
-    KarvexUtils::updateSolvaneThemes();
-
-    QCOMPARE(properties.cssChanges, 0);
-    QCOMPARE(calls, 0);
-    QTRY_COMPARE(calls, 1);
-    QCOMPARE(properties.cssChanges, 0);
-}
-
-void tst_KarvexUtils::updateThemesLeavesOtherWidgetsAlone() {
-    QWidget bare;
-    QWidget styledOnly;
-    styledOnly.setProperty("css", QStringLiteral("QWidget { color: $(text); }"));
-    PropertyChangeCounter bareProperties;
-    PropertyChangeCounter styledProperties;
-    bare.installEventFilter(&bareProperties);
-    styledOnly.installEventFilter(&styledProperties);
-
-    KarvexUtils::updateSolvaneThemes();
-    QCoreApplication::processEvents();
-
-    QCOMPARE(bareProperties.cssChanges, 0);
-    QVERIFY(!bare.dynamicPropertyNames().contains("css"));
-    // No slot needed for the rewrite.
-    QVERIFY(styledProperties.cssChanges >= 1);
-    QCOMPARE(styledOnly.property("css").toString(), QStringLiteral("QWidget { color: $(text); }"));
+    QCOMPARE(calls, themed ? 1 : 0);
+    QCOMPARE(properties.cssChanges > 0, rewritten);
 }
 
 void tst_KarvexUtils::updateThemesWidgetDeletedBeforeDelivery() {
