@@ -69,530 +69,486 @@ public:
 class tst_KaPopover : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase() { m_recording = std::make_unique<AccessibilityRecorder::RecordingScope>(); }
 
-    void toAlignment_data();
-    void toAlignment();
-    void placement_data();
-    void placement();
-    void flipsAtScreenEdge();
-    void alignmentAlongEdge_data();
-    void alignmentAlongEdge();
-    void offsetMoves();
-    void fitInMainWindow();
-    void setArrowPosition();
+    void init() {
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
+        AccessibilityRecorder::clear();
+    }
 
-    void textPopoverWraps();
-    void shortTextStaysNarrow();
-    void headerText();
-    void accessibleOpening_data();
-    void accessibleOpening();
+    void cleanup() {
+        // Popovers that closed themselves are deleted later.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 
-    void autoDismiss_data();
-    void autoDismiss();
-    void timedDismissal();
-    void dismissWithParentFocused_data();
-    void dismissWithParentFocused();
-    void sourceMove_data();
-    void sourceMove();
-    void focusSourceOnClose_data();
-    void focusSourceOnClose();
-    void noFocusWhenNotTaking();
+    void toAlignment_data() {
+        QTest::addColumn<int>("arrow");
+        QTest::addColumn<KaPopupEnum::Alignment>("alignment");
+        QTest::newRow("top") << int(KaWidgetData::ArrowTop) << KaPopupEnum::Bottom;
+        QTest::newRow("left") << int(KaWidgetData::ArrowLeft) << KaPopupEnum::Right;
+        QTest::newRow("right") << int(KaWidgetData::ArrowRight) << KaPopupEnum::Left;
+        QTest::newRow("bottom") << int(KaWidgetData::ArrowBottom) << KaPopupEnum::Top;
+        QTest::newRow("none") << int(KaWidgetData::ArrowNone) << KaPopupEnum::None;
+        QTest::newRow("out of range") << 9 << KaPopupEnum::None;
+    }
+    void toAlignment() {
+        QFETCH(int, arrow);
+        QFETCH(KaPopupEnum::Alignment, alignment);
+        QCOMPARE(KaPopover::toAlignment(KaWidgetData::ArrowPostion(arrow)), alignment);
+    }
 
-    void transparentBackground();
-    void reverseColors();
-    void anchorDeletedWhileShown();
+    void placement_data() {
+        QTest::addColumn<int>("arrow");
+        QTest::newRow("arrow top: below") << int(KaWidgetData::ArrowTop);
+        QTest::newRow("arrow left: right of it") << int(KaWidgetData::ArrowLeft);
+        QTest::newRow("arrow right: left of it") << int(KaWidgetData::ArrowRight);
+        QTest::newRow("arrow bottom: above") << int(KaWidgetData::ArrowBottom);
+        QTest::newRow("no arrow: below") << int(KaWidgetData::ArrowNone);
+    }
+    void placement() {
+        QFETCH(int, arrow);
+        Fixture f;
+        QVERIFY(f.ready());
+        const auto position = KaWidgetData::ArrowPostion(arrow);
+        QPointer<KaPopover> popover = f.show(QStringLiteral("Hello"), KaWidgetData().arrowPostion(position));
+        QVERIFY(popover->isVisible());
+        QCOMPARE(popover->arrowPosition(), position);
+        const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
+        const QRect body = popover->bodyRect().translated(popover->pos());
+        switch (position) {
+        case KaWidgetData::ArrowLeft:
+            QCOMPARE(popover->shownAlignment(), KaPopupEnum::Right);
+            QCOMPARE(body.left(), anchor.right() + 1 + KaPopupUtils::AnchorGap + KaPopupUtils::ArrowLength);
+            QVERIFY(qAbs(body.center().y() - anchor.center().y()) <= 1);
+            break;
+        case KaWidgetData::ArrowRight:
+            QCOMPARE(popover->shownAlignment(), KaPopupEnum::Left);
+            QCOMPARE(body.right(), anchor.left() - 1 - KaPopupUtils::AnchorGap - KaPopupUtils::ArrowLength);
+            break;
+        case KaWidgetData::ArrowBottom:
+            QCOMPARE(popover->shownAlignment(), KaPopupEnum::Top);
+            QCOMPARE(body.bottom(), anchor.top() - 1 - KaPopupUtils::AnchorGap - KaPopupUtils::ArrowLength);
+            QVERIFY(qAbs(body.center().x() - anchor.center().x()) <= 1);
+            break;
+        case KaWidgetData::ArrowNone:
+            QCOMPARE(popover->shownAlignment(), KaPopupEnum::Bottom);
+            // No arrow: the body itself comes up to the gap.
+            QCOMPARE(body.top(), anchor.bottom() + 1 + KaPopupUtils::AnchorGap);
+            break;
+        default:
+            QCOMPARE(popover->shownAlignment(), KaPopupEnum::Bottom);
+            QCOMPARE(body.top(), anchor.bottom() + 1 + KaPopupUtils::AnchorGap + KaPopupUtils::ArrowLength);
+            break;
+        }
+        popover->close();
+        QTRY_VERIFY(popover.isNull());
+    }
+
+    void flipsAtScreenEdge() {
+        QWidget window;
+        window.setGeometry(screenArea().left() + 100, screenArea().bottom() - 40, 200, 40);
+        QPushButton anchor(QStringLiteral("a"), &window);
+        anchor.setGeometry(10, 10, 40, 20);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QPointer<KaPopover> popover = KaPopover::createAndShowTextPopover(
+            &anchor, &window, kLongText, KaWidgetData().arrowPostion(KaWidgetData::ArrowTop));
+        QCOMPARE(popover->alignment(), KaPopupEnum::Bottom);
+        QCOMPARE(popover->shownAlignment(), KaPopupEnum::Top);
+        QVERIFY(screenArea().contains(popover->geometry()));
+        const QRect body = popover->bodyRect().translated(popover->pos());
+        QCOMPARE(body.bottom(), anchor.mapToGlobal(QPoint(0, 0)).y() - 1 - KaPopupUtils::AnchorGap -
+                                    KaPopupUtils::ArrowLength);
+        // The arrow band moved to the edge that faces the anchor.
+        QCOMPARE(popover->bodyRect(), KaPopupUtils::bodyRect(popover->size(), KaPopupEnum::Top, true));
+        popover->close();
+    }
+
+    void alignmentAlongEdge_data() {
+        QTest::addColumn<int>("alignment");
+        QTest::addColumn<int>("arrow");
+        QTest::newRow("start, below") << int(KaWidgetData::AlignStart) << int(KaWidgetData::ArrowTop);
+        QTest::newRow("end, below") << int(KaWidgetData::AlignEnd) << int(KaWidgetData::ArrowTop);
+        QTest::newRow("start, beside") << int(KaWidgetData::AlignStart) << int(KaWidgetData::ArrowLeft);
+        QTest::newRow("end, beside") << int(KaWidgetData::AlignEnd) << int(KaWidgetData::ArrowLeft);
+    }
+    void alignmentAlongEdge() {
+        QFETCH(int, alignment);
+        QFETCH(int, arrow);
+        Fixture f;
+        QVERIFY(f.ready());
+        const KaWidgetData data = KaWidgetData()
+                                      .alignment(KaWidgetData::Alignment(alignment))
+                                      .arrowPostion(KaWidgetData::ArrowPostion(arrow));
+        QPointer<KaPopover> popover = f.show(kLongText, data);
+        const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
+        const QRect body = popover->bodyRect().translated(popover->pos());
+        const bool start = alignment == KaWidgetData::AlignStart;
+        if (arrow == KaWidgetData::ArrowTop)
+            QCOMPARE(start ? body.left() : body.right(), start ? anchor.left() : anchor.right());
+        else
+            QCOMPARE(start ? body.top() : body.bottom(), start ? anchor.top() : anchor.bottom());
+        popover->close();
+    }
+
+    void offsetMoves() {
+        Fixture f;
+        QVERIFY(f.ready());
+        QCOMPARE(f.open(KaWidgetData().offset(QPoint(5, -7)))->pos(), f.open()->pos() + QPoint(5, -7));
+    }
+
+    void fitInMainWindow() {
+        Fixture f;
+        QVERIFY(f.ready());
+        f.anchor.move(250, 90); // near the window's right edge
+        const KaWidgetData data = KaWidgetData().arrowPostion(KaWidgetData::ArrowBottom);
+        const QString wide = QStringLiteral("A fairly wide popover text");
+        QVERIFY(!f.window.geometry().contains(f.open(data, new KaLabel(wide))->geometry()));
+        const auto fitted = f.open(KaWidgetData(data).fitInMainWindowGeometry(true), new KaLabel(wide));
+        QCOMPARE(fitted->geometry().right(), f.window.geometry().right());
+    }
+
+    void setArrowPosition() {
+        Fixture f;
+        QVERIFY(f.ready());
+        const auto owner = f.open();
+        KaPopover& popover = *owner;
+        QSignalSpy spy(&popover, &KaPopover::arrowPositionChanged);
+        const QPoint below = popover.pos();
+        popover.setArrowPosition(KaWidgetData::ArrowBottom);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(popover.shownAlignment(), KaPopupEnum::Top);
+        QVERIFY(popover.pos().y() < below.y());
+        popover.setArrowPosition(KaWidgetData::ArrowBottom);
+        QCOMPARE(spy.count(), 1);
+        QTest::ignoreMessage(QtWarningMsg, "KaPopover: unknown arrow position 7, using ArrowNone");
+        popover.setArrowPosition(KaWidgetData::ArrowPostion(7));
+        QCOMPARE(popover.arrowPosition(), KaWidgetData::ArrowNone);
+        QCOMPARE(spy.count(), 2);
+    }
+
+    void textPopoverWraps() {
+        Fixture f;
+        QVERIFY(f.ready());
+        QPointer<KaPopover> popover = f.show(kLongText);
+        auto* label = qobject_cast<KaLabel*>(popover->contentWidget());
+        QVERIFY(label);
+        QVERIFY(label->wordWrap());
+        QCOMPARE(popover->bodyRect().width(), KaWidgetData::maxPopoverWidth);
+        const int line = label->fontMetrics().height();
+        QVERIFY2(label->height() >= 3 * line, qPrintable(QString::number(label->height())));
+        // Every wrapped line is shown: the label got the height its width needs.
+        QCOMPARE(label->height(), label->heightForWidth(label->width()));
+        QVERIFY(popover->bodyRect().contains(label->geometry()));
+
+        // Wider side popovers keep the same body width.
+        QPointer<KaPopover> side = f.show(kLongText, KaWidgetData().arrowPostion(KaWidgetData::ArrowLeft));
+        QCOMPARE(side->bodyRect().width(), KaWidgetData::maxPopoverWidth);
+        popover->close();
+        side->close();
+    }
+
+    void shortTextStaysNarrow() {
+        Fixture f;
+        QVERIFY(f.ready());
+        QPointer<KaPopover> popover = f.show(QStringLiteral("Hi"));
+        auto* label = qobject_cast<KaLabel*>(popover->contentWidget());
+        QVERIFY(popover->bodyRect().width() < KaWidgetData::maxPopoverWidth / 2);
+        QCOMPARE(label->height(), label->sizeHint().height());
+        popover->close();
+    }
+
+    void headerText() {
+        Fixture f;
+        QVERIFY(f.ready());
+        QPointer<KaPopover> popover =
+            f.show(QStringLiteral("Body"), KaWidgetData().headerText(QStringLiteral("Title")));
+        QVERIFY(popover->headerLabel());
+        QCOMPARE(popover->headerLabel()->text(), QStringLiteral("Title"));
+        QVERIFY(popover->headerLabel()->geometry().bottom() < popover->contentWidget()->geometry().top());
+        QVERIFY(popover->headerLabel()->font().pixelSize() > popover->contentWidget()->font().pixelSize());
+        popover->close();
+
+        KaPopover bare(&f.anchor, &f.window);
+        QCOMPARE(bare.headerLabel(), nullptr);
+    }
+
+    void accessibleOpening_data() {
+        QTest::addColumn<bool>("takeFocus");
+        QTest::addColumn<bool>("form");
+        QTest::addColumn<QAccessible::Role>("role");
+        QTest::addColumn<QStringList>("announced");
+        const QStringList text{QStringLiteral("Title, Body")};
+        QTest::newRow("read-only, takes focus") << true << false << QAccessible::Dialog << text;
+        QTest::newRow("leaves focus alone") << false << false << QAccessible::ToolTip << text;
+        // The screen reader reads the focused field instead.
+        QTest::newRow("form") << true << true << QAccessible::Dialog << QStringList();
+    }
+    void accessibleOpening() {
+        QFETCH(bool, takeFocus);
+        QFETCH(bool, form);
+        QFETCH(QAccessible::Role, role);
+        QFETCH(QStringList, announced);
+        Fixture f;
+        QVERIFY(f.ready());
+        QWidget* content = form ? static_cast<QWidget*>(new QLineEdit) : new QLabel(QStringLiteral("Body"));
+        QPointer<KaPopover> popover = KaPopover::createAndShow(
+            content, &f.anchor, &f.window,
+            KaWidgetData().headerText(QStringLiteral("Title")).shouldTakeFocus(takeFocus));
+        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(popover.data());
+        QCOMPARE(iface->role(), role);
+        QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Title"));
+
+        using AccessibilityRecorder::eventsOfType;
+        QCOMPARE(
+            eventsOfType(takeFocus ? QAccessible::DialogStart : QAccessible::PopupMenuStart, popover).size(),
+            1);
+        const int focusEvents = eventsOfType(QAccessible::Focus, popover).size() +
+                                eventsOfType(QAccessible::Focus, content).size();
+        QCOMPARE(focusEvents > 0, takeFocus);
+        if (takeFocus)
+            QCOMPARE(eventsOfType(QAccessible::Focus).last().object, form ? content : popover.data());
+        QCOMPARE(AccessibilityRecorder::announcements(popover), announced);
+        // Qt's Linux bridge forwards value changes only from objects with a value.
+        QVERIFY(iface->valueInterface());
+
+        popover->close();
+        QCOMPARE(eventsOfType(takeFocus ? QAccessible::DialogEnd : QAccessible::PopupMenuEnd, popover).size(),
+                 1);
+    }
+
+    void autoDismiss_data() {
+        QTest::addColumn<bool>("autoDismiss");
+        QTest::addColumn<bool>("escape"); // or a click outside
+        QTest::newRow("click, auto dismiss") << true << false;
+        QTest::newRow("click, stays") << false << false;
+        QTest::newRow("escape, auto dismiss") << true << true;
+        QTest::newRow("escape, stays") << false << true;
+    }
+    void autoDismiss() {
+        QFETCH(bool, autoDismiss);
+        QFETCH(bool, escape);
+        Fixture f;
+        QVERIFY(f.ready());
+        QPointer<KaPopover> popover = f.show(
+            QStringLiteral("x"), KaWidgetData().autoDismiss(autoDismiss).dismissWithParentFocused(false));
+        QSignalSpy dismissed(popover.data(), &KaPopover::dismissed);
+        // Clicks inside or on the anchor never dismiss.
+        QTest::mouseClick(popover.data(), Qt::LeftButton, {}, popover->bodyRect().center());
+        QTest::mouseClick(&f.anchor, Qt::LeftButton);
+        QVERIFY(popover->isVisible());
+        if (escape)
+            QTest::keyClick(popover.data(), Qt::Key_Escape);
+        else
+            QTest::mouseClick(&f.other, Qt::LeftButton);
+        if (autoDismiss) {
+            QCOMPARE(dismissed.count(), 1);
+            QTRY_VERIFY(popover.isNull());
+        } else {
+            QVERIFY(popover->isVisible());
+            QCOMPARE(dismissed.count(), 0);
+            popover->close();
+        }
+    }
+
+    void timedDismissal() {
+        Fixture f;
+        QVERIFY(f.ready());
+        QElapsedTimer clock;
+        clock.start();
+        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().dismissTimerTicks(3));
+        QSignalSpy dismissed(popover.data(), &KaPopover::dismissed);
+        QVERIFY(dismissed.wait(5000));
+        QVERIFY(clock.elapsed() >= 3 * KaPopover::DismissTickMs - 20);
+        QTRY_VERIFY(popover.isNull());
+
+        // Without ticks it stays.
+        QPointer<KaPopover> lasting = f.show(QStringLiteral("x"));
+        QSignalSpy none(lasting.data(), &KaPopover::dismissed);
+        QVERIFY(!none.wait(5 * KaPopover::DismissTickMs));
+        QVERIFY(lasting->isVisible());
+        lasting->close();
+    }
+
+    void dismissWithParentFocused_data() {
+        QTest::addColumn<bool>("dismissWithParentFocused");
+        QTest::addColumn<bool>("skipDeep");
+        QTest::addColumn<bool>("focusParentItself");
+        QTest::addColumn<bool>("dismissed");
+        QTest::newRow("focus into the parent's window") << true << false << false << true;
+        QTest::newRow("focus onto the parent") << true << false << true << true;
+        QTest::newRow("shallow, focus into the window") << true << true << false << false;
+        QTest::newRow("shallow, focus onto the parent") << true << true << true << true;
+        QTest::newRow("off") << false << false << true << false;
+    }
+    void dismissWithParentFocused() {
+        QFETCH(bool, dismissWithParentFocused);
+        QFETCH(bool, skipDeep);
+        QFETCH(bool, focusParentItself);
+        QFETCH(bool, dismissed);
+        Fixture f;
+        QVERIFY(f.ready());
+        f.window.setFocusPolicy(Qt::StrongFocus);
+        const KaWidgetData data =
+            KaWidgetData().dismissWithParentFocused(dismissWithParentFocused).skipDeepFocusCheck(skipDeep);
+        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), data);
+        QSignalSpy spy(popover.data(), &KaPopover::dismissed);
+        QWidget* target = focusParentItself ? &f.window : static_cast<QWidget*>(&f.other);
+        f.window.activateWindow();
+        target->setFocus(Qt::OtherFocusReason);
+        QTRY_COMPARE(QApplication::focusWidget(), target);
+        QCOMPARE(spy.count(), dismissed ? 1 : 0);
+        if (popover)
+            popover->close();
+    }
+
+    void sourceMove_data() {
+        QTest::addColumn<bool>("dismissOnMove");
+        QTest::addColumn<bool>("moveWithSource");
+        QTest::newRow("dismiss") << true << false;
+        QTest::newRow("follow") << false << true;
+        QTest::newRow("neither") << false << false;
+        QTest::newRow("both: dismiss wins") << true << true;
+    }
+    void sourceMove() {
+        QFETCH(bool, dismissOnMove);
+        QFETCH(bool, moveWithSource);
+        Fixture f;
+        QVERIFY(f.ready());
+        QPointer<KaPopover> popover =
+            f.show(QStringLiteral("x"),
+                   KaWidgetData().dismissPopupOnSourceMove(dismissOnMove).moveWithSource(moveWithSource));
+        QSignalSpy spy(popover.data(), &KaPopover::dismissed);
+        // Counts the window's move events: once one has arrived, the popover has
+        // seen it too, so "nothing happened" below is a real observation.
+        MoveCounter windowMoves;
+        f.window.installEventFilter(&windowMoves);
+        const QPoint before = popover->pos();
+
+        // Other widgets moving is no concern of the popover.
+        f.other.move(f.other.pos() + QPoint(5, 5));
+        f.window.move(f.window.pos() + QPoint(-30, 20));
+        QTRY_VERIFY(windowMoves.moves > 0);
+        if (dismissOnMove) {
+            QTRY_COMPARE(spy.count(), 1);
+            QTRY_VERIFY(popover.isNull());
+            return;
+        }
+        QCOMPARE(spy.count(), 0);
+        QTRY_COMPARE(popover->pos(), moveWithSource ? before + QPoint(-30, 20) : before);
+
+        // Moving the anchor inside its window counts as well (delivered at once).
+        f.anchor.move(f.anchor.pos() + QPoint(10, 0));
+        QCOMPARE(popover->pos().x(), moveWithSource ? before.x() - 30 + 10 : before.x());
+        QCOMPARE(spy.count(), 0);
+        popover->close();
+    }
+
+    void focusSourceOnClose_data() {
+        QTest::addColumn<bool>("focusSource");
+        QTest::newRow("focus returns") << true;
+        QTest::newRow("focus stays away") << false;
+    }
+    void focusSourceOnClose() {
+        QFETCH(bool, focusSource);
+        Fixture f;
+        QVERIFY(f.ready());
+        // The window would give focus back to its own focus widget anyway.
+        f.window.activateWindow();
+        f.other.setFocus();
+        QTRY_VERIFY(f.other.hasFocus());
+        QPointer<KaPopover> popover =
+            f.show(QStringLiteral("x"), KaWidgetData().activateOnShow(true).focusSourceOnClose(focusSource));
+        QTRY_VERIFY(popover->isActiveWindow());
+        QTRY_COMPARE(QApplication::focusWidget(), popover.data());
+        QTest::keyClick(popover.data(), Qt::Key_Escape);
+        QTRY_VERIFY(popover.isNull());
+        f.window.activateWindow();
+        QTRY_VERIFY(f.window.isActiveWindow());
+        QCOMPARE(f.anchor.hasFocus(), focusSource);
+        QCOMPARE(f.other.hasFocus(), !focusSource);
+    }
+
+    void noFocusWhenNotTaking() {
+        Fixture f;
+        QVERIFY(f.ready());
+        f.other.setFocus();
+        QTRY_VERIFY(f.other.hasFocus());
+        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().shouldTakeFocus(false));
+        QVERIFY(popover->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
+        QCOMPARE(popover->focusPolicy(), Qt::NoFocus);
+        QVERIFY(popover->testAttribute(Qt::WA_ShowWithoutActivating));
+        QVERIFY(!popover->hasFocus());
+        QVERIFY(f.other.hasFocus());
+        popover->close();
+    }
+
+    void transparentBackground() {
+        Fixture f;
+        QVERIFY(f.ready());
+        const KaPopupUtils::PopupColors colors = KaPopupUtils::popupColors();
+
+        const auto bubble = f.open(KaWidgetData(), new QWidget);
+        QVERIFY(bubble->testAttribute(Qt::WA_TranslucentBackground));
+        QCOMPARE(qAlpha(bubble->grab().toImage().pixel(0, 0)), 0);
+
+        const auto owner = f.open(KaWidgetData().shouldHaveTransparentBackground(false), new QWidget);
+        KaPopover& opaque = *owner;
+        QVERIFY(!opaque.testAttribute(Qt::WA_TranslucentBackground));
+        QCOMPARE(opaque.bodyRect(), opaque.rect());
+        const QImage opaqueImage = opaque.grab().toImage();
+        QCOMPARE(opaqueImage.pixelColor(0, 0), colors.border);
+        QCOMPARE(opaqueImage.pixelColor(opaque.width() / 2, opaque.height() / 2), colors.background);
+        // No shadow band: the window's edge sits where the body's would.
+        const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
+        QCOMPARE(opaque.geometry().top(), anchor.bottom() + 1 + KaPopupUtils::AnchorGap);
+    }
+
+    void reverseColors() {
+        Fixture f;
+        QVERIFY(f.ready());
+        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().setReverseColor(true));
+        const QColor alternate = KaPopupUtils::popupColors(BzThemeUtils::Alternate).background;
+        QVERIFY(alternate != KaPopupUtils::popupColors().background);
+        const QImage image = popover->grab().toImage();
+        const QPoint centre = popover->bodyRect().center();
+        QCOMPARE(image.pixelColor(centre.x(), popover->bodyRect().bottom() - 3), alternate);
+        // The text follows: dark-theme text on the dark bubble.
+        auto* label = qobject_cast<KaLabel*>(popover->contentWidget());
+        QCOMPARE(label->palette().color(QPalette::WindowText),
+                 BzThemeUtils::getColorSet("label-primary-text", BzThemeUtils::Alternate).normal());
+
+        // A theme switch re-resolves through onThemeChanged().
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
+        QTRY_COMPARE(popover->grab().toImage().pixelColor(centre.x(), popover->bodyRect().bottom() - 3),
+                     KaPopupUtils::popupColors(BzThemeUtils::Light).background);
+        popover->close();
+    }
+
+    void anchorDeletedWhileShown() {
+        auto* window = new QWidget;
+        window->setGeometry(QRect(screenArea().center(), QSize(100, 60)));
+        auto* anchor = new QPushButton(window);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        KaPopover popover(anchor, nullptr, KaWidgetData().moveWithSource(true));
+        popover.setContentWidget(new KaLabel(QStringLiteral("x")));
+        popover.popup();
+        const QPoint where = popover.pos();
+        delete window;
+        popover.updatePosition();
+        QCOMPARE(popover.pos(), where);
+        popover.update();
+        QVERIFY(!popover.grab().isNull());
+        popover.hide();
+        QTest::ignoreMessage(QtWarningMsg, "KaPopover: the anchor is gone, not showing");
+        popover.popup();
+        QVERIFY(!popover.isVisible());
+    }
 
 private:
     std::unique_ptr<AccessibilityRecorder::RecordingScope> m_recording;
 };
-
-void tst_KaPopover::initTestCase() {
-    m_recording = std::make_unique<AccessibilityRecorder::RecordingScope>();
-}
-
-void tst_KaPopover::init() {
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-    AccessibilityRecorder::clear();
-}
-
-void tst_KaPopover::cleanup() {
-    // Popovers that closed themselves are deleted later.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-void tst_KaPopover::toAlignment_data() {
-    QTest::addColumn<int>("arrow");
-    QTest::addColumn<KaPopupEnum::Alignment>("alignment");
-    QTest::newRow("top") << int(KaWidgetData::ArrowTop) << KaPopupEnum::Bottom;
-    QTest::newRow("left") << int(KaWidgetData::ArrowLeft) << KaPopupEnum::Right;
-    QTest::newRow("right") << int(KaWidgetData::ArrowRight) << KaPopupEnum::Left;
-    QTest::newRow("bottom") << int(KaWidgetData::ArrowBottom) << KaPopupEnum::Top;
-    QTest::newRow("none") << int(KaWidgetData::ArrowNone) << KaPopupEnum::None;
-    QTest::newRow("out of range") << 9 << KaPopupEnum::None;
-}
-
-void tst_KaPopover::toAlignment() {
-    QFETCH(int, arrow);
-    QFETCH(KaPopupEnum::Alignment, alignment);
-    QCOMPARE(KaPopover::toAlignment(KaWidgetData::ArrowPostion(arrow)), alignment);
-}
-
-void tst_KaPopover::placement_data() {
-    QTest::addColumn<int>("arrow");
-    QTest::newRow("arrow top: below") << int(KaWidgetData::ArrowTop);
-    QTest::newRow("arrow left: right of it") << int(KaWidgetData::ArrowLeft);
-    QTest::newRow("arrow right: left of it") << int(KaWidgetData::ArrowRight);
-    QTest::newRow("arrow bottom: above") << int(KaWidgetData::ArrowBottom);
-    QTest::newRow("no arrow: below") << int(KaWidgetData::ArrowNone);
-}
-
-void tst_KaPopover::placement() {
-    QFETCH(int, arrow);
-    Fixture f;
-    QVERIFY(f.ready());
-    const auto position = KaWidgetData::ArrowPostion(arrow);
-    QPointer<KaPopover> popover = f.show(QStringLiteral("Hello"), KaWidgetData().arrowPostion(position));
-    QVERIFY(popover->isVisible());
-    QCOMPARE(popover->arrowPosition(), position);
-    const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
-    const QRect body = popover->bodyRect().translated(popover->pos());
-    switch (position) {
-    case KaWidgetData::ArrowLeft:
-        QCOMPARE(popover->shownAlignment(), KaPopupEnum::Right);
-        QCOMPARE(body.left(), anchor.right() + 1 + KaPopupUtils::AnchorGap + KaPopupUtils::ArrowLength);
-        QVERIFY(qAbs(body.center().y() - anchor.center().y()) <= 1);
-        break;
-    case KaWidgetData::ArrowRight:
-        QCOMPARE(popover->shownAlignment(), KaPopupEnum::Left);
-        QCOMPARE(body.right(), anchor.left() - 1 - KaPopupUtils::AnchorGap - KaPopupUtils::ArrowLength);
-        break;
-    case KaWidgetData::ArrowBottom:
-        QCOMPARE(popover->shownAlignment(), KaPopupEnum::Top);
-        QCOMPARE(body.bottom(), anchor.top() - 1 - KaPopupUtils::AnchorGap - KaPopupUtils::ArrowLength);
-        QVERIFY(qAbs(body.center().x() - anchor.center().x()) <= 1);
-        break;
-    case KaWidgetData::ArrowNone:
-        QCOMPARE(popover->shownAlignment(), KaPopupEnum::Bottom);
-        // No arrow: the body itself comes up to the gap.
-        QCOMPARE(body.top(), anchor.bottom() + 1 + KaPopupUtils::AnchorGap);
-        break;
-    default:
-        QCOMPARE(popover->shownAlignment(), KaPopupEnum::Bottom);
-        QCOMPARE(body.top(), anchor.bottom() + 1 + KaPopupUtils::AnchorGap + KaPopupUtils::ArrowLength);
-        break;
-    }
-    popover->close();
-    QTRY_VERIFY(popover.isNull());
-}
-
-void tst_KaPopover::flipsAtScreenEdge() {
-    QWidget window;
-    window.setGeometry(screenArea().left() + 100, screenArea().bottom() - 40, 200, 40);
-    QPushButton anchor(QStringLiteral("a"), &window);
-    anchor.setGeometry(10, 10, 40, 20);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QPointer<KaPopover> popover = KaPopover::createAndShowTextPopover(
-        &anchor, &window, kLongText, KaWidgetData().arrowPostion(KaWidgetData::ArrowTop));
-    QCOMPARE(popover->alignment(), KaPopupEnum::Bottom);
-    QCOMPARE(popover->shownAlignment(), KaPopupEnum::Top);
-    QVERIFY(screenArea().contains(popover->geometry()));
-    const QRect body = popover->bodyRect().translated(popover->pos());
-    QCOMPARE(body.bottom(),
-             anchor.mapToGlobal(QPoint(0, 0)).y() - 1 - KaPopupUtils::AnchorGap - KaPopupUtils::ArrowLength);
-    // The arrow band moved to the edge that faces the anchor.
-    QCOMPARE(popover->bodyRect(), KaPopupUtils::bodyRect(popover->size(), KaPopupEnum::Top, true));
-    popover->close();
-}
-
-void tst_KaPopover::alignmentAlongEdge_data() {
-    QTest::addColumn<int>("alignment");
-    QTest::addColumn<int>("arrow");
-    QTest::newRow("start, below") << int(KaWidgetData::AlignStart) << int(KaWidgetData::ArrowTop);
-    QTest::newRow("end, below") << int(KaWidgetData::AlignEnd) << int(KaWidgetData::ArrowTop);
-    QTest::newRow("start, beside") << int(KaWidgetData::AlignStart) << int(KaWidgetData::ArrowLeft);
-    QTest::newRow("end, beside") << int(KaWidgetData::AlignEnd) << int(KaWidgetData::ArrowLeft);
-}
-
-void tst_KaPopover::alignmentAlongEdge() {
-    QFETCH(int, alignment);
-    QFETCH(int, arrow);
-    Fixture f;
-    QVERIFY(f.ready());
-    const KaWidgetData data = KaWidgetData()
-                                  .alignment(KaWidgetData::Alignment(alignment))
-                                  .arrowPostion(KaWidgetData::ArrowPostion(arrow));
-    QPointer<KaPopover> popover = f.show(kLongText, data);
-    const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
-    const QRect body = popover->bodyRect().translated(popover->pos());
-    const bool start = alignment == KaWidgetData::AlignStart;
-    if (arrow == KaWidgetData::ArrowTop)
-        QCOMPARE(start ? body.left() : body.right(), start ? anchor.left() : anchor.right());
-    else
-        QCOMPARE(start ? body.top() : body.bottom(), start ? anchor.top() : anchor.bottom());
-    popover->close();
-}
-
-void tst_KaPopover::offsetMoves() {
-    Fixture f;
-    QVERIFY(f.ready());
-    QCOMPARE(f.open(KaWidgetData().offset(QPoint(5, -7)))->pos(), f.open()->pos() + QPoint(5, -7));
-}
-
-void tst_KaPopover::fitInMainWindow() {
-    Fixture f;
-    QVERIFY(f.ready());
-    f.anchor.move(250, 90); // near the window's right edge
-    const KaWidgetData data = KaWidgetData().arrowPostion(KaWidgetData::ArrowBottom);
-    const QString wide = QStringLiteral("A fairly wide popover text");
-    QVERIFY(!f.window.geometry().contains(f.open(data, new KaLabel(wide))->geometry()));
-    const auto fitted = f.open(KaWidgetData(data).fitInMainWindowGeometry(true), new KaLabel(wide));
-    QCOMPARE(fitted->geometry().right(), f.window.geometry().right());
-}
-
-void tst_KaPopover::setArrowPosition() {
-    Fixture f;
-    QVERIFY(f.ready());
-    const auto owner = f.open();
-    KaPopover& popover = *owner;
-    QSignalSpy spy(&popover, &KaPopover::arrowPositionChanged);
-    const QPoint below = popover.pos();
-    popover.setArrowPosition(KaWidgetData::ArrowBottom);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(popover.shownAlignment(), KaPopupEnum::Top);
-    QVERIFY(popover.pos().y() < below.y());
-    popover.setArrowPosition(KaWidgetData::ArrowBottom);
-    QCOMPARE(spy.count(), 1);
-    QTest::ignoreMessage(QtWarningMsg, "KaPopover: unknown arrow position 7, using ArrowNone");
-    popover.setArrowPosition(KaWidgetData::ArrowPostion(7));
-    QCOMPARE(popover.arrowPosition(), KaWidgetData::ArrowNone);
-    QCOMPARE(spy.count(), 2);
-}
-
-void tst_KaPopover::textPopoverWraps() {
-    Fixture f;
-    QVERIFY(f.ready());
-    QPointer<KaPopover> popover = f.show(kLongText);
-    auto* label = qobject_cast<KaLabel*>(popover->contentWidget());
-    QVERIFY(label);
-    QVERIFY(label->wordWrap());
-    QCOMPARE(popover->bodyRect().width(), KaWidgetData::maxPopoverWidth);
-    const int line = label->fontMetrics().height();
-    QVERIFY2(label->height() >= 3 * line, qPrintable(QString::number(label->height())));
-    // Every wrapped line is shown: the label got the height its width needs.
-    QCOMPARE(label->height(), label->heightForWidth(label->width()));
-    QVERIFY(popover->bodyRect().contains(label->geometry()));
-
-    // Wider side popovers keep the same body width.
-    QPointer<KaPopover> side = f.show(kLongText, KaWidgetData().arrowPostion(KaWidgetData::ArrowLeft));
-    QCOMPARE(side->bodyRect().width(), KaWidgetData::maxPopoverWidth);
-    popover->close();
-    side->close();
-}
-
-void tst_KaPopover::shortTextStaysNarrow() {
-    Fixture f;
-    QVERIFY(f.ready());
-    QPointer<KaPopover> popover = f.show(QStringLiteral("Hi"));
-    auto* label = qobject_cast<KaLabel*>(popover->contentWidget());
-    QVERIFY(popover->bodyRect().width() < KaWidgetData::maxPopoverWidth / 2);
-    QCOMPARE(label->height(), label->sizeHint().height());
-    popover->close();
-}
-
-void tst_KaPopover::headerText() {
-    Fixture f;
-    QVERIFY(f.ready());
-    QPointer<KaPopover> popover =
-        f.show(QStringLiteral("Body"), KaWidgetData().headerText(QStringLiteral("Title")));
-    QVERIFY(popover->headerLabel());
-    QCOMPARE(popover->headerLabel()->text(), QStringLiteral("Title"));
-    QVERIFY(popover->headerLabel()->geometry().bottom() < popover->contentWidget()->geometry().top());
-    QVERIFY(popover->headerLabel()->font().pixelSize() > popover->contentWidget()->font().pixelSize());
-    popover->close();
-
-    KaPopover bare(&f.anchor, &f.window);
-    QCOMPARE(bare.headerLabel(), nullptr);
-}
-
-void tst_KaPopover::accessibleOpening_data() {
-    QTest::addColumn<bool>("takeFocus");
-    QTest::addColumn<bool>("form");
-    QTest::addColumn<QAccessible::Role>("role");
-    QTest::addColumn<QStringList>("announced");
-    const QStringList text{QStringLiteral("Title, Body")};
-    QTest::newRow("read-only, takes focus") << true << false << QAccessible::Dialog << text;
-    QTest::newRow("leaves focus alone") << false << false << QAccessible::ToolTip << text;
-    // The screen reader reads the focused field instead.
-    QTest::newRow("form") << true << true << QAccessible::Dialog << QStringList();
-}
-
-void tst_KaPopover::accessibleOpening() {
-    QFETCH(bool, takeFocus);
-    QFETCH(bool, form);
-    QFETCH(QAccessible::Role, role);
-    QFETCH(QStringList, announced);
-    Fixture f;
-    QVERIFY(f.ready());
-    QWidget* content = form ? static_cast<QWidget*>(new QLineEdit) : new QLabel(QStringLiteral("Body"));
-    QPointer<KaPopover> popover = KaPopover::createAndShow(
-        content, &f.anchor, &f.window,
-        KaWidgetData().headerText(QStringLiteral("Title")).shouldTakeFocus(takeFocus));
-    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(popover.data());
-    QCOMPARE(iface->role(), role);
-    QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Title"));
-
-    using AccessibilityRecorder::eventsOfType;
-    QCOMPARE(eventsOfType(takeFocus ? QAccessible::DialogStart : QAccessible::PopupMenuStart, popover).size(),
-             1);
-    const int focusEvents =
-        eventsOfType(QAccessible::Focus, popover).size() + eventsOfType(QAccessible::Focus, content).size();
-    QCOMPARE(focusEvents > 0, takeFocus);
-    if (takeFocus)
-        QCOMPARE(eventsOfType(QAccessible::Focus).last().object, form ? content : popover.data());
-    QCOMPARE(AccessibilityRecorder::announcements(popover), announced);
-    // Qt's Linux bridge forwards value changes only from objects with a value.
-    QVERIFY(iface->valueInterface());
-
-    popover->close();
-    QCOMPARE(eventsOfType(takeFocus ? QAccessible::DialogEnd : QAccessible::PopupMenuEnd, popover).size(), 1);
-}
-
-void tst_KaPopover::autoDismiss_data() {
-    QTest::addColumn<bool>("autoDismiss");
-    QTest::addColumn<bool>("escape"); // or a click outside
-    QTest::newRow("click, auto dismiss") << true << false;
-    QTest::newRow("click, stays") << false << false;
-    QTest::newRow("escape, auto dismiss") << true << true;
-    QTest::newRow("escape, stays") << false << true;
-}
-
-void tst_KaPopover::autoDismiss() {
-    QFETCH(bool, autoDismiss);
-    QFETCH(bool, escape);
-    Fixture f;
-    QVERIFY(f.ready());
-    QPointer<KaPopover> popover =
-        f.show(QStringLiteral("x"), KaWidgetData().autoDismiss(autoDismiss).dismissWithParentFocused(false));
-    QSignalSpy dismissed(popover.data(), &KaPopover::dismissed);
-    // Clicks inside or on the anchor never dismiss.
-    QTest::mouseClick(popover.data(), Qt::LeftButton, {}, popover->bodyRect().center());
-    QTest::mouseClick(&f.anchor, Qt::LeftButton);
-    QVERIFY(popover->isVisible());
-    if (escape)
-        QTest::keyClick(popover.data(), Qt::Key_Escape);
-    else
-        QTest::mouseClick(&f.other, Qt::LeftButton);
-    if (autoDismiss) {
-        QCOMPARE(dismissed.count(), 1);
-        QTRY_VERIFY(popover.isNull());
-    } else {
-        QVERIFY(popover->isVisible());
-        QCOMPARE(dismissed.count(), 0);
-        popover->close();
-    }
-}
-
-void tst_KaPopover::timedDismissal() {
-    Fixture f;
-    QVERIFY(f.ready());
-    QElapsedTimer clock;
-    clock.start();
-    QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().dismissTimerTicks(3));
-    QSignalSpy dismissed(popover.data(), &KaPopover::dismissed);
-    QVERIFY(dismissed.wait(5000));
-    QVERIFY(clock.elapsed() >= 3 * KaPopover::DismissTickMs - 20);
-    QTRY_VERIFY(popover.isNull());
-
-    // Without ticks it stays.
-    QPointer<KaPopover> lasting = f.show(QStringLiteral("x"));
-    QSignalSpy none(lasting.data(), &KaPopover::dismissed);
-    QVERIFY(!none.wait(5 * KaPopover::DismissTickMs));
-    QVERIFY(lasting->isVisible());
-    lasting->close();
-}
-
-void tst_KaPopover::dismissWithParentFocused_data() {
-    QTest::addColumn<bool>("dismissWithParentFocused");
-    QTest::addColumn<bool>("skipDeep");
-    QTest::addColumn<bool>("focusParentItself");
-    QTest::addColumn<bool>("dismissed");
-    QTest::newRow("focus into the parent's window") << true << false << false << true;
-    QTest::newRow("focus onto the parent") << true << false << true << true;
-    QTest::newRow("shallow, focus into the window") << true << true << false << false;
-    QTest::newRow("shallow, focus onto the parent") << true << true << true << true;
-    QTest::newRow("off") << false << false << true << false;
-}
-
-void tst_KaPopover::dismissWithParentFocused() {
-    QFETCH(bool, dismissWithParentFocused);
-    QFETCH(bool, skipDeep);
-    QFETCH(bool, focusParentItself);
-    QFETCH(bool, dismissed);
-    Fixture f;
-    QVERIFY(f.ready());
-    f.window.setFocusPolicy(Qt::StrongFocus);
-    const KaWidgetData data =
-        KaWidgetData().dismissWithParentFocused(dismissWithParentFocused).skipDeepFocusCheck(skipDeep);
-    QPointer<KaPopover> popover = f.show(QStringLiteral("x"), data);
-    QSignalSpy spy(popover.data(), &KaPopover::dismissed);
-    QWidget* target = focusParentItself ? &f.window : static_cast<QWidget*>(&f.other);
-    f.window.activateWindow();
-    target->setFocus(Qt::OtherFocusReason);
-    QTRY_COMPARE(QApplication::focusWidget(), target);
-    QCOMPARE(spy.count(), dismissed ? 1 : 0);
-    if (popover)
-        popover->close();
-}
-
-void tst_KaPopover::sourceMove_data() {
-    QTest::addColumn<bool>("dismissOnMove");
-    QTest::addColumn<bool>("moveWithSource");
-    QTest::newRow("dismiss") << true << false;
-    QTest::newRow("follow") << false << true;
-    QTest::newRow("neither") << false << false;
-    QTest::newRow("both: dismiss wins") << true << true;
-}
-
-void tst_KaPopover::sourceMove() {
-    QFETCH(bool, dismissOnMove);
-    QFETCH(bool, moveWithSource);
-    Fixture f;
-    QVERIFY(f.ready());
-    QPointer<KaPopover> popover =
-        f.show(QStringLiteral("x"),
-               KaWidgetData().dismissPopupOnSourceMove(dismissOnMove).moveWithSource(moveWithSource));
-    QSignalSpy spy(popover.data(), &KaPopover::dismissed);
-    // Counts the window's move events: once one has arrived, the popover has
-    // seen it too, so "nothing happened" below is a real observation.
-    MoveCounter windowMoves;
-    f.window.installEventFilter(&windowMoves);
-    const QPoint before = popover->pos();
-
-    // Other widgets moving is no concern of the popover.
-    f.other.move(f.other.pos() + QPoint(5, 5));
-    f.window.move(f.window.pos() + QPoint(-30, 20));
-    QTRY_VERIFY(windowMoves.moves > 0);
-    if (dismissOnMove) {
-        QTRY_COMPARE(spy.count(), 1);
-        QTRY_VERIFY(popover.isNull());
-        return;
-    }
-    QCOMPARE(spy.count(), 0);
-    QTRY_COMPARE(popover->pos(), moveWithSource ? before + QPoint(-30, 20) : before);
-
-    // Moving the anchor inside its window counts as well (delivered at once).
-    f.anchor.move(f.anchor.pos() + QPoint(10, 0));
-    QCOMPARE(popover->pos().x(), moveWithSource ? before.x() - 30 + 10 : before.x());
-    QCOMPARE(spy.count(), 0);
-    popover->close();
-}
-
-void tst_KaPopover::focusSourceOnClose_data() {
-    QTest::addColumn<bool>("focusSource");
-    QTest::newRow("focus returns") << true;
-    QTest::newRow("focus stays away") << false;
-}
-
-void tst_KaPopover::focusSourceOnClose() {
-    QFETCH(bool, focusSource);
-    Fixture f;
-    QVERIFY(f.ready());
-    // The window would give focus back to its own focus widget anyway.
-    f.window.activateWindow();
-    f.other.setFocus();
-    QTRY_VERIFY(f.other.hasFocus());
-    QPointer<KaPopover> popover =
-        f.show(QStringLiteral("x"), KaWidgetData().activateOnShow(true).focusSourceOnClose(focusSource));
-    QTRY_VERIFY(popover->isActiveWindow());
-    QTRY_COMPARE(QApplication::focusWidget(), popover.data());
-    QTest::keyClick(popover.data(), Qt::Key_Escape);
-    QTRY_VERIFY(popover.isNull());
-    f.window.activateWindow();
-    QTRY_VERIFY(f.window.isActiveWindow());
-    QCOMPARE(f.anchor.hasFocus(), focusSource);
-    QCOMPARE(f.other.hasFocus(), !focusSource);
-}
-
-void tst_KaPopover::noFocusWhenNotTaking() {
-    Fixture f;
-    QVERIFY(f.ready());
-    f.other.setFocus();
-    QTRY_VERIFY(f.other.hasFocus());
-    QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().shouldTakeFocus(false));
-    QVERIFY(popover->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
-    QCOMPARE(popover->focusPolicy(), Qt::NoFocus);
-    QVERIFY(popover->testAttribute(Qt::WA_ShowWithoutActivating));
-    QVERIFY(!popover->hasFocus());
-    QVERIFY(f.other.hasFocus());
-    popover->close();
-}
-
-void tst_KaPopover::transparentBackground() {
-    Fixture f;
-    QVERIFY(f.ready());
-    const KaPopupUtils::PopupColors colors = KaPopupUtils::popupColors();
-
-    const auto bubble = f.open(KaWidgetData(), new QWidget);
-    QVERIFY(bubble->testAttribute(Qt::WA_TranslucentBackground));
-    QCOMPARE(qAlpha(bubble->grab().toImage().pixel(0, 0)), 0);
-
-    const auto owner = f.open(KaWidgetData().shouldHaveTransparentBackground(false), new QWidget);
-    KaPopover& opaque = *owner;
-    QVERIFY(!opaque.testAttribute(Qt::WA_TranslucentBackground));
-    QCOMPARE(opaque.bodyRect(), opaque.rect());
-    const QImage opaqueImage = opaque.grab().toImage();
-    QCOMPARE(opaqueImage.pixelColor(0, 0), colors.border);
-    QCOMPARE(opaqueImage.pixelColor(opaque.width() / 2, opaque.height() / 2), colors.background);
-    // No shadow band: the window's edge sits where the body's would.
-    const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
-    QCOMPARE(opaque.geometry().top(), anchor.bottom() + 1 + KaPopupUtils::AnchorGap);
-}
-
-void tst_KaPopover::reverseColors() {
-    Fixture f;
-    QVERIFY(f.ready());
-    QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().setReverseColor(true));
-    const QColor alternate = KaPopupUtils::popupColors(BzThemeUtils::Alternate).background;
-    QVERIFY(alternate != KaPopupUtils::popupColors().background);
-    const QImage image = popover->grab().toImage();
-    const QPoint centre = popover->bodyRect().center();
-    QCOMPARE(image.pixelColor(centre.x(), popover->bodyRect().bottom() - 3), alternate);
-    // The text follows: dark-theme text on the dark bubble.
-    auto* label = qobject_cast<KaLabel*>(popover->contentWidget());
-    QCOMPARE(label->palette().color(QPalette::WindowText),
-             BzThemeUtils::getColorSet("label-primary-text", BzThemeUtils::Alternate).normal());
-
-    // A theme switch re-resolves through onThemeChanged().
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
-    QTRY_COMPARE(popover->grab().toImage().pixelColor(centre.x(), popover->bodyRect().bottom() - 3),
-                 KaPopupUtils::popupColors(BzThemeUtils::Light).background);
-    popover->close();
-}
-
-void tst_KaPopover::anchorDeletedWhileShown() {
-    auto* window = new QWidget;
-    window->setGeometry(QRect(screenArea().center(), QSize(100, 60)));
-    auto* anchor = new QPushButton(window);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window));
-    KaPopover popover(anchor, nullptr, KaWidgetData().moveWithSource(true));
-    popover.setContentWidget(new KaLabel(QStringLiteral("x")));
-    popover.popup();
-    const QPoint where = popover.pos();
-    delete window;
-    popover.updatePosition();
-    QCOMPARE(popover.pos(), where);
-    popover.update();
-    QVERIFY(!popover.grab().isNull());
-    popover.hide();
-    QTest::ignoreMessage(QtWarningMsg, "KaPopover: the anchor is gone, not showing");
-    popover.popup();
-    QVERIFY(!popover.isVisible());
-}
 
 QTEST_MAIN(tst_KaPopover)
 #include "tst_kapopover.moc"
