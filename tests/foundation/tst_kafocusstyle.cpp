@@ -47,20 +47,19 @@ private:
 // a test asks.
 class Target : public QWidget {
 public:
-    explicit Target(QWidget* parent = nullptr)
+    explicit Target(QWidget* parent = nullptr, const QRect& geometry = QRect())
         : QWidget(parent) {
         setFocusPolicy(Qt::StrongFocus);
+        if (geometry.isValid())
+            setGeometry(geometry);
     }
 };
 
 // Asks its style for the focus rectangle while focused, as the library's
 // own widgets do (Fusion's push buttons draw their own focus instead).
-class RingRequester : public QWidget {
+class RingRequester : public Target {
 public:
-    explicit RingRequester(QWidget* parent = nullptr)
-        : QWidget(parent) {
-        setFocusPolicy(Qt::StrongFocus);
-    }
+    using Target::Target;
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -169,7 +168,6 @@ private Q_SLOTS:
     void cornerMask();
 
     void focusedWidgetDeletedBeforeDeferredStep();
-    void widgetDeletedBeforeUpdate();
     void styleDeletedWithPendingSteps();
     void overlayParentDeleted();
     void focusMoveHidesRing();
@@ -230,8 +228,7 @@ void tst_KaFocusStyle::keyboardFlags() {
     QFETCH(bool, ringed);
 
     KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(underlineHint));
-    auto* target = new Target(m_window.get());
-    target->setGeometry(40, 40, 80, 30);
+    auto* target = new Target(m_window.get(), QRect(40, 40, 80, 30));
     if (always)
         target->setProperty("alwaysShowFocusRectWhenFocused", true);
     qApp->setProperty("isKeyboardFocus", appKeyboard);
@@ -341,8 +338,7 @@ void tst_KaFocusStyle::geometry() {
     // Nested, so that the position goes through more than one parent.
     auto* panel = new QWidget(m_window.get());
     panel->setGeometry(30, 20, 300, 200);
-    auto* target = new Target(panel);
-    target->setGeometry(QRect(QPoint(25, 35), size));
+    auto* target = new Target(panel, QRect(QPoint(25, 35), size));
     target->setProperty("focusMargin", margin);
     target->setProperty("focusBorderRadius", radius);
     target->setProperty("rectangularCornerMask", mask);
@@ -360,8 +356,7 @@ void tst_KaFocusStyle::geometry() {
 
 void tst_KaFocusStyle::customRect() {
     KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* target = new Target(m_window.get());
-    target->setGeometry(50, 60, 200, 100);
+    auto* target = new Target(m_window.get(), QRect(50, 60, 200, 100));
     showWindow();
     target->setFocus(Qt::TabFocusReason);
     drainQueued();
@@ -381,8 +376,7 @@ void tst_KaFocusStyle::customRect() {
 
 void tst_KaFocusStyle::otherPrimitivesPassThrough() {
     KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* target = new Target(m_window.get());
-    target->setGeometry(10, 10, 60, 30);
+    auto* target = new Target(m_window.get(), QRect(10, 10, 60, 30));
     showWindow();
     target->setFocus(Qt::TabFocusReason);
     drainQueued();
@@ -485,15 +479,13 @@ void tst_KaFocusStyle::cornerMask() {
 
 void tst_KaFocusStyle::focusedWidgetDeletedBeforeDeferredStep() {
     KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* keep = new Target(m_window.get());
-    keep->setGeometry(10, 10, 60, 30);
+    auto* keep = new Target(m_window.get(), QRect(10, 10, 60, 30));
     showWindow();
     keep->setFocus(Qt::TabFocusReason);
     drainQueued();
     QVERIFY(overlayIn(m_window.get()));
 
-    auto* doomed = new Target(m_window.get());
-    doomed->setGeometry(100, 10, 60, 30);
+    auto* doomed = new Target(m_window.get(), QRect(100, 10, 60, 30));
     doomed->show();
     doomed->setFocus(Qt::TabFocusReason);
     requestRing(style, doomed);
@@ -509,29 +501,10 @@ void tst_KaFocusStyle::focusedWidgetDeletedBeforeDeferredStep() {
     QCOMPARE(overlayIn(m_window.get())->geometry(), grown(keep->geometry(), 5));
 }
 
-void tst_KaFocusStyle::widgetDeletedBeforeUpdate() {
-    KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* target = new Target(m_window.get());
-    target->setGeometry(10, 10, 60, 30);
-    showWindow();
-    target->setFocus(Qt::TabFocusReason);
-    drainQueued();
-
-    QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
-    requestRing(style, target);
-    delete target;
-    drainQueued();
-    QCOMPARE(spy.count(), 0);
-    for (CustomFocusOverlay* overlay : m_window->findChildren<CustomFocusOverlay*>())
-        QVERIFY(!overlay->isVisible());
-}
-
 void tst_KaFocusStyle::styleDeletedWithPendingSteps() {
     auto* style = new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* target = new Target(m_window.get());
-    target->setGeometry(10, 10, 60, 30);
-    auto* other = new Target(m_window.get());
-    other->setGeometry(100, 10, 60, 30);
+    auto* target = new Target(m_window.get(), QRect(10, 10, 60, 30));
+    auto* other = new Target(m_window.get(), QRect(100, 10, 60, 30));
     showWindow();
     ringOn(*style, target);
     QTRY_VERIFY(visibleOverlay(m_window.get()));
@@ -551,8 +524,7 @@ void tst_KaFocusStyle::overlayParentDeleted() {
     auto* list = new QListWidget(m_window.get());
     list->addItems({QStringLiteral("one"), QStringLiteral("two")});
     list->setGeometry(10, 10, 150, 100);
-    auto* other = new Target(m_window.get());
-    other->setGeometry(200, 10, 60, 30);
+    auto* other = new Target(m_window.get(), QRect(200, 10, 60, 30));
     showWindow();
     list->setFocus(Qt::TabFocusReason);
     drainQueued();
@@ -570,10 +542,8 @@ void tst_KaFocusStyle::overlayParentDeleted() {
 
 void tst_KaFocusStyle::focusMoveHidesRing() {
     KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* first = new Target(m_window.get());
-    first->setGeometry(10, 10, 60, 30);
-    auto* second = new Target(m_window.get());
-    second->setGeometry(100, 10, 60, 30);
+    auto* first = new Target(m_window.get(), QRect(10, 10, 60, 30));
+    auto* second = new Target(m_window.get(), QRect(100, 10, 60, 30));
     showWindow();
     ringOn(style, first);
     QTRY_VERIFY(visibleOverlay(m_window.get()));
@@ -613,10 +583,8 @@ void tst_KaFocusStyle::keyboardAndMouseFocus() {
     auto* style = new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false));
     QApplication::setStyle(style);
     qApp->setProperty("isKeyboardFocus", appKeyboard);
-    auto* first = new RingRequester(m_window.get());
-    first->setGeometry(20, 20, 100, 32);
-    auto* second = new RingRequester(m_window.get());
-    second->setGeometry(20, 80, 100, 32);
+    auto* first = new RingRequester(m_window.get(), QRect(20, 20, 100, 32));
+    auto* second = new RingRequester(m_window.get(), QRect(20, 80, 100, 32));
     showWindow();
     first->setFocus(Qt::OtherFocusReason);
     drainQueued();
