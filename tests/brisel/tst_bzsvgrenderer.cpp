@@ -1,5 +1,6 @@
 #include "bzsvgrenderer.h"
 #include "drawutils.h"
+#include "testhelpers.h"
 
 #include <QFile>
 #include <QImage>
@@ -9,15 +10,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-namespace {
+using BzTest::canvas;
 
-QImage canvas(const QSize& logicalSize, qreal dpr = 1.0) {
-    QImage image(QSize(int(logicalSize.width() * dpr), int(logicalSize.height() * dpr)),
-                 QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(dpr);
-    image.fill(Qt::transparent);
-    return image;
-}
+namespace {
 
 QImage drawn(const BzSvgRenderer& renderer, const QColor& color, qreal opacity = 1.0,
              qreal painterOpacity = 1.0) {

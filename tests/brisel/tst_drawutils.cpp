@@ -1,4 +1,5 @@
 #include "drawutils.h"
+#include "testhelpers.h"
 
 #include <QFont>
 #include <QImage>
@@ -6,15 +7,7 @@
 #include <QRegularExpression>
 #include <QTest>
 
-namespace {
-QImage canvas(const QSize& size, qreal dpr = 1.0) {
-    QImage image(QSize(int(size.width() * dpr), int(size.height() * dpr)),
-                 QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(dpr);
-    image.fill(Qt::transparent);
-    return image;
-}
-} // namespace
+using BzTest::canvas;
 
 class tst_DrawUtils : public QObject {
     Q_OBJECT

@@ -30,6 +30,15 @@ inline BzCSSData primary(int radius = 0) {
     return record("button-primary-background", "button-primary-text", radius);
 }
 
+// A transparent image of `size` logical pixels, device pixels truncated.
+inline QImage canvas(const QSize& size, qreal dpr = 1.0) {
+    QImage image(QSize(int(size.width() * dpr), int(size.height() * dpr)),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(dpr);
+    image.fill(Qt::transparent);
+    return image;
+}
+
 // The widget alone on a transparent image: grab() would show the parent's
 // background wherever the widget paints nothing.
 inline QImage paint(QWidget& widget, qreal dpr = 1.0) {
