@@ -335,12 +335,12 @@ private Q_SLOTS:
         window.setGeometry(100, 100, 200, 120);
         const int row = ShadowMargin + 3;
         // Alpha along the row just inside the tip.
-        const auto draw = [&window, row](const QPoint& anchor, int offset) {
+        const auto draw = [&window](const QPoint& anchor, int offset) {
             QImage image(200, 120, QImage::Format_ARGB32_Premultiplied);
             image.fill(Qt::transparent);
             QPainter painter(&image);
             drawPopup(&window, &painter, KaPopupEnum::Bottom, anchor, offset, QPixmap(), true, window.size());
-            return [image, row](int x) {
+            return [image](int x) {
                 return qAlpha(image.pixel(x, row));
             };
         };
