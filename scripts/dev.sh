@@ -37,6 +37,8 @@ build() { # build DIR [cmake options...]; later options override the default bui
     local launcher=()
     if command -v ccache >/dev/null; then
         launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+        # Fresh clones in other folders still hit the cache, Debug builds too.
+        export CCACHE_BASEDIR="$here" CCACHE_NOHASHDIR=true
     fi
     # Warnings fail the build, with GCC and with clang alike.
     cmake -S . -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=Release -DKARVEX_WERROR=ON "${launcher[@]}" "$@"
