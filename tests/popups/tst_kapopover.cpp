@@ -81,65 +81,44 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    void toAlignment_data() {
-        QTest::addColumn<int>("arrow");
-        QTest::addColumn<KaPopupEnum::Alignment>("alignment");
-        QTest::newRow("top") << int(KaWidgetData::ArrowTop) << KaPopupEnum::Bottom;
-        QTest::newRow("left") << int(KaWidgetData::ArrowLeft) << KaPopupEnum::Right;
-        QTest::newRow("right") << int(KaWidgetData::ArrowRight) << KaPopupEnum::Left;
-        QTest::newRow("bottom") << int(KaWidgetData::ArrowBottom) << KaPopupEnum::Top;
-        QTest::newRow("none") << int(KaWidgetData::ArrowNone) << KaPopupEnum::None;
-        QTest::newRow("out of range") << 9 << KaPopupEnum::None;
-    }
-    void toAlignment() {
-        QFETCH(int, arrow);
-        QFETCH(KaPopupEnum::Alignment, alignment);
-        QCOMPARE(KaPopover::toAlignment(KaWidgetData::ArrowPostion(arrow)), alignment);
-    }
-
     void placement_data() {
         QTest::addColumn<int>("arrow");
-        QTest::newRow("arrow top: below") << int(KaWidgetData::ArrowTop);
-        QTest::newRow("arrow left: right of it") << int(KaWidgetData::ArrowLeft);
-        QTest::newRow("arrow right: left of it") << int(KaWidgetData::ArrowRight);
-        QTest::newRow("arrow bottom: above") << int(KaWidgetData::ArrowBottom);
-        QTest::newRow("no arrow: below") << int(KaWidgetData::ArrowNone);
+        QTest::addColumn<KaPopupEnum::Alignment>("side");
+        QTest::newRow("arrow top: below") << int(KaWidgetData::ArrowTop) << KaPopupEnum::Bottom;
+        QTest::newRow("arrow left: right of it") << int(KaWidgetData::ArrowLeft) << KaPopupEnum::Right;
+        QTest::newRow("arrow right: left of it") << int(KaWidgetData::ArrowRight) << KaPopupEnum::Left;
+        QTest::newRow("arrow bottom: above") << int(KaWidgetData::ArrowBottom) << KaPopupEnum::Top;
+        QTest::newRow("no arrow: below") << int(KaWidgetData::ArrowNone) << KaPopupEnum::Bottom;
     }
+
     void placement() {
         QFETCH(int, arrow);
+        QFETCH(KaPopupEnum::Alignment, side);
+        const auto position = KaWidgetData::ArrowPostion(arrow);
+        const bool none = position == KaWidgetData::ArrowNone;
+        QCOMPARE(KaPopover::toAlignment(position), none ? KaPopupEnum::None : side);
         Fixture f;
         QVERIFY(f.ready());
-        const auto position = KaWidgetData::ArrowPostion(arrow);
         QPointer<KaPopover> popover = f.show(QStringLiteral("Hello"), KaWidgetData().arrowPostion(position));
         QVERIFY(popover->isVisible());
         QCOMPARE(popover->arrowPosition(), position);
+        QCOMPARE(popover->shownAlignment(), side);
         const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
         const QRect body = popover->bodyRect().translated(popover->pos());
-        switch (position) {
-        case KaWidgetData::ArrowLeft:
-            QCOMPARE(popover->shownAlignment(), KaPopupEnum::Right);
-            QCOMPARE(body.left(), anchor.right() + 1 + KaPopupUtils::AnchorGap + KaPopupUtils::ArrowLength);
-            QVERIFY(qAbs(body.center().y() - anchor.center().y()) <= 1);
-            break;
-        case KaWidgetData::ArrowRight:
-            QCOMPARE(popover->shownAlignment(), KaPopupEnum::Left);
-            QCOMPARE(body.right(), anchor.left() - 1 - KaPopupUtils::AnchorGap - KaPopupUtils::ArrowLength);
-            break;
-        case KaWidgetData::ArrowBottom:
-            QCOMPARE(popover->shownAlignment(), KaPopupEnum::Top);
-            QCOMPARE(body.bottom(), anchor.top() - 1 - KaPopupUtils::AnchorGap - KaPopupUtils::ArrowLength);
-            QVERIFY(qAbs(body.center().x() - anchor.center().x()) <= 1);
-            break;
-        case KaWidgetData::ArrowNone:
-            QCOMPARE(popover->shownAlignment(), KaPopupEnum::Bottom);
-            // No arrow: the body itself comes up to the gap.
-            QCOMPARE(body.top(), anchor.bottom() + 1 + KaPopupUtils::AnchorGap);
-            break;
-        default:
-            QCOMPARE(popover->shownAlignment(), KaPopupEnum::Bottom);
-            QCOMPARE(body.top(), anchor.bottom() + 1 + KaPopupUtils::AnchorGap + KaPopupUtils::ArrowLength);
-            break;
-        }
+        // Without an arrow the body itself comes up to the gap.
+        const int gap = KaPopupUtils::AnchorGap + (none ? 0 : KaPopupUtils::ArrowLength);
+        if (side == KaPopupEnum::Right)
+            QCOMPARE(body.left(), anchor.right() + 1 + gap);
+        else if (side == KaPopupEnum::Left)
+            QCOMPARE(body.right(), anchor.left() - 1 - gap);
+        else if (side == KaPopupEnum::Top)
+            QCOMPARE(body.bottom(), anchor.top() - 1 - gap);
+        else
+            QCOMPARE(body.top(), anchor.bottom() + 1 + gap);
+        // Centred on the anchor along that edge.
+        const bool beside = side == KaPopupEnum::Left || side == KaPopupEnum::Right;
+        QVERIFY(qAbs(beside ? body.center().y() - anchor.center().y()
+                            : body.center().x() - anchor.center().x()) <= 1);
         popover->close();
         QTRY_VERIFY(popover.isNull());
     }
@@ -224,6 +203,7 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, "KaPopover: unknown arrow position 7, using ArrowNone");
         popover.setArrowPosition(KaWidgetData::ArrowPostion(7));
         QCOMPARE(popover.arrowPosition(), KaWidgetData::ArrowNone);
+        QCOMPARE(KaPopover::toAlignment(KaWidgetData::ArrowPostion(9)), KaPopupEnum::None);
         QCOMPARE(spy.count(), 2);
     }
 
