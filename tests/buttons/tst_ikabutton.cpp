@@ -59,165 +59,154 @@ private:
 class tst_IKaButton : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
-    void leftIconTellsConfiguration();
-    void recordIsApplied();
-    void identicalRecordDoesNotResolveAgain();
-    void bordersMirrorInRightToLeft();
-    void visibilitySignals();
-    void acceleratorTypeGoesThroughConfiguration();
-    void withoutConfiguration();
+    void initTestCase() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+
+    void leftIconTellsConfiguration() {
+        auto* config = new TestConfig;
+        TestButton button(config);
+        QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
+        QSignalSpy changed(&button, &IKaButton::leftIconChanged);
+
+        const QString icon = QStringLiteral(":/Resources/check-regular.svg");
+        const QString iconOn = QStringLiteral(":/Resources/check-circle-badge-filled.svg");
+        button.setLeftIcon(icon);
+        QCOMPARE(button.svgIcon(), icon);
+        QCOMPARE(button.leftIcon(), icon);
+        // One refresh per change, not one from the configuration and one from the button.
+        QCOMPARE(refreshes.count(), 1);
+        QCOMPARE(changed.count(), 1);
+
+        button.setLeftIconOn(iconOn);
+        QCOMPARE(button.svgIconChecked(), iconOn);
+        QCOMPARE(button.svgIcon(), icon);
+        QCOMPARE(refreshes.count(), 2);
+
+        button.setLeftIcon(QString());
+        QCOMPARE(config->log, (QStringList{"left:1", "left:0"}));
+
+        // The button paints the anchors the configuration chose.
+        button.setRightIcon(icon);
+        QCOMPARE(button.anchorSvgOff(), icon);
+        QCOMPARE(button.anchorSvgOn(), icon);
+        button.setRightIcon(QString());
+        QCOMPARE(config->log, (QStringList{"left:1", "left:0", "right:1", "right:0"}));
+
+        // The current path changes nothing.
+        button.setLeftIconOn(iconOn);
+        button.setRightIcon(QString());
+        QCOMPARE(refreshes.count(), 5);
+        QCOMPARE(config->log.size(), 4);
+    }
+
+    void recordIsApplied() {
+        auto* config = new TestConfig;
+        config->record.sizePolicy = QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        config->record.focusPolicy = Qt::TabFocus;
+        config->record.fixedHeight = 36;
+        config->record.fontToken = BzFont::Caption;
+        config->record.layoutMode = 3;
+        config->record.innerMetric = 17;
+        TestButton button(config);
+
+        QCOMPARE(button.sizePolicy(), config->record.sizePolicy);
+        QCOMPARE(button.focusPolicy(), Qt::TabFocus);
+        QCOMPARE(button.minimumHeight(), 36);
+        QCOMPARE(button.maximumHeight(), 36);
+        QCOMPARE(int(button.fontToken()), int(BzFont::Caption));
+        QCOMPARE(button.font().pixelSize(), BzFont(BzFont::Caption).pixelSize());
+        QCOMPARE(button.layoutMode(), 3);
+        QCOMPARE(button.innerMetric(), 17);
+
+        QSignalSpy layout(&button, &BzPushButton::layoutModeChanged);
+        QSignalSpy inner(&button, &BzPushButton::innerMetricChanged);
+        Q_EMIT button.refreshConfig();
+        QCOMPARE(layout.count(), 0);
+        QCOMPARE(inner.count(), 0);
+        config->record.innerMetric = 20;
+        Q_EMIT button.refreshConfig();
+        QCOMPARE(inner.count(), 1);
+        QCOMPARE(layout.count(), 0);
+
+        // Height 0 frees the height again.
+        config->record.fixedHeight = 0;
+        Q_EMIT button.refreshConfig();
+        QCOMPARE(button.minimumHeight(), 0);
+        QCOMPARE(button.maximumHeight(), QWIDGETSIZE_MAX);
+    }
+
+    void identicalRecordDoesNotResolveAgain() {
+        auto* config = new TestConfig;
+        config->record.colors.backgroundColorSet = QStringLiteral("button-primary-background");
+        TestButton button(config);
+        QSignalSpy resolved(&button, &BzPushButton::cssChanged);
+        Q_EMIT button.refreshConfig();
+        QCOMPARE(resolved.count(), 0);
+        config->record.colors.backgroundColorSet = QStringLiteral("button-secondary-background");
+        Q_EMIT button.refreshConfig();
+        QCOMPARE(resolved.count(), 1);
+        QCOMPARE(button.getWCSS().backgroundColorSet, QStringLiteral("button-secondary-background"));
+    }
+
+    void bordersMirrorInRightToLeft() {
+        auto* config = new TestConfig;
+        config->record.colors.borderColorSet = QStringLiteral("button-secondary-border");
+        config->record.colors.hasBorder = {{false, false, false, true}}; // left only
+        TestButton button(config);
+        QVERIFY(button.getWCSS().isOn(BzCSSData::BorderLeft));
+        QVERIFY(!button.getWCSS().isOn(BzCSSData::BorderRight));
+
+        button.setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(!button.getWCSS().isOn(BzCSSData::BorderLeft));
+        QVERIFY(button.getWCSS().isOn(BzCSSData::BorderRight));
+        QVERIFY(!button.getWCSS().isOn(BzCSSData::BorderTop));
+    }
+
+    void visibilitySignals() {
+        QWidget window;
+        TestButton button(new TestConfig, &window);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        QSignalSpy visibility(&button, &IKaButton::onVisibilityChanged);
+        QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
+        button.hide();
+        QCOMPARE(visibility.count(), 1);
+        QCOMPARE(visibility.at(0).at(0).toBool(), false);
+        QCOMPARE(refreshes.count(), 0);
+
+        button.show();
+        QCOMPARE(visibility.count(), 2);
+        QCOMPARE(visibility.at(1).at(0).toBool(), true);
+        // The program showed it: the look is re-applied.
+        QCOMPARE(refreshes.count(), 1);
+    }
+
+    void acceleratorTypeGoesThroughConfiguration() {
+        auto* config = new TestConfig;
+        TestButton button(config);
+        QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
+        button.applyAcceleratorType(BzPushButton::AlwaysUnderlined);
+        QCOMPARE(config->customValue, int(BzPushButton::AlwaysUnderlined));
+        QCOMPARE(button.getAcceleratorType(), int(BzPushButton::AlwaysUnderlined));
+        QCOMPARE(refreshes.count(), 1);
+
+        button.applyAcceleratorType(BzPushButton::AlwaysUnderlined);
+        QCOMPARE(refreshes.count(), 1);
+    }
+
+    void withoutConfiguration() {
+        TestButton button(nullptr);
+        QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
+        button.setLeftIcon(QStringLiteral(":/Resources/check-regular.svg"));
+        button.setRightIcon(QStringLiteral(":/Resources/check-regular.svg"));
+        button.applyAcceleratorType(BzPushButton::AlwaysUnderlined);
+        QCOMPARE(refreshes.count(), 0);
+        QVERIFY(button.leftIcon().isEmpty());
+        QVERIFY(button.svgIcon().isEmpty());
+        button.onThemeChanged();
+        QCOMPARE(refreshes.count(), 1);
+    }
 };
-
-void tst_IKaButton::initTestCase() {
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-}
-
-void tst_IKaButton::leftIconTellsConfiguration() {
-    auto* config = new TestConfig;
-    TestButton button(config);
-    QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
-    QSignalSpy changed(&button, &IKaButton::leftIconChanged);
-
-    const QString icon = QStringLiteral(":/Resources/check-regular.svg");
-    const QString iconOn = QStringLiteral(":/Resources/check-circle-badge-filled.svg");
-    button.setLeftIcon(icon);
-    QCOMPARE(button.svgIcon(), icon);
-    QCOMPARE(button.leftIcon(), icon);
-    // One refresh per change, not one from the configuration and one from the button.
-    QCOMPARE(refreshes.count(), 1);
-    QCOMPARE(changed.count(), 1);
-
-    button.setLeftIconOn(iconOn);
-    QCOMPARE(button.svgIconChecked(), iconOn);
-    QCOMPARE(button.svgIcon(), icon);
-    QCOMPARE(refreshes.count(), 2);
-
-    button.setLeftIcon(QString());
-    QCOMPARE(config->log, (QStringList{"left:1", "left:0"}));
-
-    // The button paints the anchors the configuration chose.
-    button.setRightIcon(icon);
-    QCOMPARE(button.anchorSvgOff(), icon);
-    QCOMPARE(button.anchorSvgOn(), icon);
-    button.setRightIcon(QString());
-    QCOMPARE(config->log, (QStringList{"left:1", "left:0", "right:1", "right:0"}));
-
-    // The current path changes nothing.
-    button.setLeftIconOn(iconOn);
-    button.setRightIcon(QString());
-    QCOMPARE(refreshes.count(), 5);
-    QCOMPARE(config->log.size(), 4);
-}
-
-void tst_IKaButton::recordIsApplied() {
-    auto* config = new TestConfig;
-    config->record.sizePolicy = QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    config->record.focusPolicy = Qt::TabFocus;
-    config->record.fixedHeight = 36;
-    config->record.fontToken = BzFont::Caption;
-    config->record.layoutMode = 3;
-    config->record.innerMetric = 17;
-    TestButton button(config);
-
-    QCOMPARE(button.sizePolicy(), config->record.sizePolicy);
-    QCOMPARE(button.focusPolicy(), Qt::TabFocus);
-    QCOMPARE(button.minimumHeight(), 36);
-    QCOMPARE(button.maximumHeight(), 36);
-    QCOMPARE(int(button.fontToken()), int(BzFont::Caption));
-    QCOMPARE(button.font().pixelSize(), BzFont(BzFont::Caption).pixelSize());
-    QCOMPARE(button.layoutMode(), 3);
-    QCOMPARE(button.innerMetric(), 17);
-
-    QSignalSpy layout(&button, &BzPushButton::layoutModeChanged);
-    QSignalSpy inner(&button, &BzPushButton::innerMetricChanged);
-    Q_EMIT button.refreshConfig();
-    QCOMPARE(layout.count(), 0);
-    QCOMPARE(inner.count(), 0);
-    config->record.innerMetric = 20;
-    Q_EMIT button.refreshConfig();
-    QCOMPARE(inner.count(), 1);
-    QCOMPARE(layout.count(), 0);
-
-    // Height 0 frees the height again.
-    config->record.fixedHeight = 0;
-    Q_EMIT button.refreshConfig();
-    QCOMPARE(button.minimumHeight(), 0);
-    QCOMPARE(button.maximumHeight(), QWIDGETSIZE_MAX);
-}
-
-void tst_IKaButton::identicalRecordDoesNotResolveAgain() {
-    auto* config = new TestConfig;
-    config->record.colors.backgroundColorSet = QStringLiteral("button-primary-background");
-    TestButton button(config);
-    QSignalSpy resolved(&button, &BzPushButton::cssChanged);
-    Q_EMIT button.refreshConfig();
-    QCOMPARE(resolved.count(), 0);
-    config->record.colors.backgroundColorSet = QStringLiteral("button-secondary-background");
-    Q_EMIT button.refreshConfig();
-    QCOMPARE(resolved.count(), 1);
-    QCOMPARE(button.getWCSS().backgroundColorSet, QStringLiteral("button-secondary-background"));
-}
-
-void tst_IKaButton::bordersMirrorInRightToLeft() {
-    auto* config = new TestConfig;
-    config->record.colors.borderColorSet = QStringLiteral("button-secondary-border");
-    config->record.colors.hasBorder = {{false, false, false, true}}; // left only
-    TestButton button(config);
-    QVERIFY(button.getWCSS().isOn(BzCSSData::BorderLeft));
-    QVERIFY(!button.getWCSS().isOn(BzCSSData::BorderRight));
-
-    button.setLayoutDirection(Qt::RightToLeft);
-    QVERIFY(!button.getWCSS().isOn(BzCSSData::BorderLeft));
-    QVERIFY(button.getWCSS().isOn(BzCSSData::BorderRight));
-    QVERIFY(!button.getWCSS().isOn(BzCSSData::BorderTop));
-}
-
-void tst_IKaButton::visibilitySignals() {
-    QWidget window;
-    TestButton button(new TestConfig, &window);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-
-    QSignalSpy visibility(&button, &IKaButton::onVisibilityChanged);
-    QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
-    button.hide();
-    QCOMPARE(visibility.count(), 1);
-    QCOMPARE(visibility.at(0).at(0).toBool(), false);
-    QCOMPARE(refreshes.count(), 0);
-
-    button.show();
-    QCOMPARE(visibility.count(), 2);
-    QCOMPARE(visibility.at(1).at(0).toBool(), true);
-    // The program showed it: the look is re-applied.
-    QCOMPARE(refreshes.count(), 1);
-}
-
-void tst_IKaButton::acceleratorTypeGoesThroughConfiguration() {
-    auto* config = new TestConfig;
-    TestButton button(config);
-    QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
-    button.applyAcceleratorType(BzPushButton::AlwaysUnderlined);
-    QCOMPARE(config->customValue, int(BzPushButton::AlwaysUnderlined));
-    QCOMPARE(button.getAcceleratorType(), int(BzPushButton::AlwaysUnderlined));
-    QCOMPARE(refreshes.count(), 1);
-
-    button.applyAcceleratorType(BzPushButton::AlwaysUnderlined);
-    QCOMPARE(refreshes.count(), 1);
-}
-
-void tst_IKaButton::withoutConfiguration() {
-    TestButton button(nullptr);
-    QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
-    button.setLeftIcon(QStringLiteral(":/Resources/check-regular.svg"));
-    button.setRightIcon(QStringLiteral(":/Resources/check-regular.svg"));
-    button.applyAcceleratorType(BzPushButton::AlwaysUnderlined);
-    QCOMPARE(refreshes.count(), 0);
-    QVERIFY(button.leftIcon().isEmpty());
-    QVERIFY(button.svgIcon().isEmpty());
-    button.onThemeChanged();
-    QCOMPARE(refreshes.count(), 1);
-}
 
 QTEST_MAIN(tst_IKaButton)
 #include "tst_ikabutton.moc"

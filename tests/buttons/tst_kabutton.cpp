@@ -49,237 +49,221 @@ private:
 class tst_KaButton : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
-    void setStyleAlwaysNotifies_data();
-    void setStyleAlwaysNotifies();
-    void setSizeDoesNotRepeat_data();
-    void setSizeDoesNotRepeat();
-    void widthSizePolicy();
-    void checkedDrivesState_data();
-    void checkedDrivesState();
-    void menuOpensBelowOnPress_data();
-    void menuOpensBelowOnPress();
-    void firstMenuStays();
-    void accessibility_data();
-    void accessibility();
+    void initTestCase() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+
+    void setStyleAlwaysNotifies_data() {
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("second");
+        QTest::newRow("same style") << int(KaButtonEnum::Primary) << int(KaButtonEnum::Primary);
+        QTest::newRow("other style") << int(KaButtonEnum::Primary) << int(KaButtonEnum::Cancel);
+        QTest::newRow("same, not the default") << int(KaButtonEnum::Ghost) << int(KaButtonEnum::Ghost);
+    }
+
+    void setStyleAlwaysNotifies() {
+        QFETCH(int, first);
+        QFETCH(int, second);
+        TestButton button;
+        button.setStyle(KaButtonEnum::Style(first));
+        QSignalSpy styles(&button, &KaButton::styleChanged);
+        QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
+        const int before = button.refreshes;
+
+        button.setStyle(KaButtonEnum::Style(second));
+        QCOMPARE(styles.count(), 1);
+        QCOMPARE(styles.at(0).at(0).value<KaButtonEnum::Style>(), KaButtonEnum::Style(second));
+        // Exactly one refresh: the configuration's own signal is not passed on as well.
+        QCOMPARE(refreshes.count(), 1);
+        QCOMPARE(button.refreshes, before + 1);
+        QCOMPARE(button.style(), KaButtonEnum::Style(second));
+        QCOMPARE(button.getWCSS().backgroundColorSet,
+                 KaButtonConfig::colorsFor(second, KaButtonEnum::Inactive).backgroundColorSet);
+    }
+
+    void setSizeDoesNotRepeat_data() {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<int>("expectedSignals");
+        QTest::newRow("current size (Large)") << int(KaButtonEnum::Large) << 0;
+        QTest::newRow("ExtraLarge") << int(KaButtonEnum::ExtraLarge) << 1;
+        QTest::newRow("ExtraSmall") << int(KaButtonEnum::ExtraSmall) << 1;
+    }
+
+    void setSizeDoesNotRepeat() {
+        QFETCH(int, size);
+        QFETCH(int, expectedSignals);
+        TestButton button;
+        QSignalSpy sizes(&button, &KaButton::sizeChanged);
+        QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
+        button.setSize(KaButtonEnum::Size(size));
+        QCOMPARE(sizes.count(), expectedSignals);
+        QCOMPARE(refreshes.count(), expectedSignals);
+        QCOMPARE(button.size(), KaButtonEnum::Size(size));
+
+        // Repeating it never notifies.
+        button.setSize(KaButtonEnum::Size(size));
+        QCOMPARE(sizes.count(), expectedSignals);
+        QCOMPARE(refreshes.count(), expectedSignals);
+    }
+
+    void widthSizePolicy() {
+        TestButton button;
+        QSignalSpy changed(&button, &KaButton::widthSizePolicyChanged);
+        QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
+        button.setWidthSizePolicy(QSizePolicy::Expanding);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(refreshes.count(), 1);
+        QCOMPARE(button.widthSizePolicy(), QSizePolicy::Expanding);
+        QCOMPARE(button.sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+        QCOMPARE(button.sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+
+        button.setWidthSizePolicy(QSizePolicy::Expanding);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(refreshes.count(), 2);
+    }
+
+    void checkedDrivesState_data() {
+        QTest::addColumn<int>("style");
+        QTest::newRow("Secondary") << int(KaButtonEnum::Secondary);
+        QTest::newRow("Ghost") << int(KaButtonEnum::Ghost);
+        QTest::newRow("Primary") << int(KaButtonEnum::Primary);
+    }
+
+    void checkedDrivesState() {
+        QFETCH(int, style);
+        QWidget window;
+        TestButton button(&window);
+        button.setStyle(KaButtonEnum::Style(style));
+        button.setCheckable(true);
+        button.setGeometry(0, 0, 100, 32);
+        window.setGeometry(300, 300, 120, 40);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        const QPoint inside(50, 16);
+        const auto faceFor = [&](bool checked) {
+            const QString set =
+                KaButtonConfig::colorsFor(style, checked ? KaButtonEnum::Active : KaButtonEnum::Inactive)
+                    .backgroundColorSet;
+            QStyle::State state = QStyle::State_Enabled;
+            if (checked)
+                state |= QStyle::State_On;
+            return BzThemeUtils::getColorSet(set).colorFor(state);
+        };
+
+        button.setChecked(true);
+        QCOMPARE(button.kaButtonConfig()->state(), KaButtonEnum::Active);
+        QCOMPARE(button.getWCSS().backgroundColorSet,
+                 KaButtonConfig::colorsFor(style, KaButtonEnum::Active).backgroundColorSet);
+        const QColor checkedFace = rendered(&button).pixelColor(inside);
+        QCOMPARE(checkedFace.rgba(), faceFor(true).rgba());
+
+        button.setChecked(false);
+        QCOMPARE(button.kaButtonConfig()->state(), KaButtonEnum::Inactive);
+        const QColor uncheckedFace = rendered(&button).pixelColor(inside);
+        if (faceFor(false).alpha() == 255)
+            QCOMPARE(uncheckedFace.rgba(), faceFor(false).rgba());
+        else
+            QCOMPARE(uncheckedFace.alpha(), faceFor(false).alpha());
+        QVERIFY(checkedFace != uncheckedFace);
+    }
+
+    void menuOpensBelowOnPress_data() {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("left-to-right") << Qt::LeftToRight;
+        QTest::newRow("right-to-left") << Qt::RightToLeft;
+    }
+
+    void menuOpensBelowOnPress() {
+        QFETCH(Qt::LayoutDirection, direction);
+        QWidget window;
+        window.setLayoutDirection(direction);
+        TestButton button(&window);
+        button.setText(QStringLiteral("Options"));
+        button.setRightIcon(QStringLiteral(":/Resources/arrow-down_8.svg"));
+        button.setRightIconOn(QStringLiteral(":/Resources/arrow-up_8.svg"));
+        button.setGeometry(20, 20, 160, 32);
+        window.setGeometry(100, 100, 300, 200);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        auto* menu = new TestMenu(&window);
+        button.setMenu(menu);
+        QCOMPARE(button.attachedMenu(), menu);
+        QVERIFY(button.actions().contains(menu->menuAction()));
+        QVERIFY(!button.isAnchorOn());
+
+        QTest::mousePress(&button, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+        QTRY_VERIFY(menu->isVisible());
+        // The press was released by the button itself after the pop-up call.
+        QVERIFY(!button.isDown());
+        QVERIFY(button.isAnchorOn());
+
+        const QRect global(button.mapToGlobal(QPoint(0, 0)), button.QWidget::size());
+        QCOMPARE(menu->geometry().top(), global.bottom() + 1);
+        if (direction == Qt::LeftToRight)
+            QCOMPARE(menu->geometry().left(), global.left());
+        else
+            QCOMPARE(menu->geometry().right(), global.right());
+
+        menu->hide();
+        QTRY_VERIFY(!button.isAnchorOn());
+    }
+
+    void firstMenuStays() {
+        TestButton button;
+        button.setMenu(nullptr);
+        QVERIFY(!button.attachedMenu());
+
+        auto* first = new TestMenu;
+        auto* second = new TestMenu;
+        button.setMenu(first);
+        button.setMenu(second);
+        QCOMPARE(button.attachedMenu(), first);
+        QVERIFY(!button.actions().contains(second->menuAction()));
+
+        delete first;
+        QVERIFY(!button.attachedMenu());
+        button.setMenu(second);
+        QCOMPARE(button.attachedMenu(), second);
+        QCOMPARE(button.actions().size(), 1);
+        delete second;
+    }
+
+    void accessibility_data() {
+        QTest::addColumn<bool>("checkable");
+        QTest::addColumn<bool>("checked");
+        QTest::addColumn<bool>("menu");
+        QTest::newRow("plain") << false << false << false;
+        QTest::newRow("checkable, unchecked") << true << false << false;
+        QTest::newRow("checkable, checked") << true << true << false;
+        QTest::newRow("with a menu") << false << false << true;
+    }
+
+    void accessibility() {
+        QFETCH(bool, checkable);
+        QFETCH(bool, checked);
+        QFETCH(bool, menu);
+        QWidget window;
+        TestButton button(&window);
+        button.setText(QStringLiteral("&Send invite"));
+        button.setCheckable(checkable);
+        button.setChecked(checked);
+        if (menu)
+            button.setMenu(new QMenu(&button));
+        window.show();
+
+        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&button);
+        QVERIFY(iface);
+        // Linux screen readers learn of a toggle only from the role.
+        QCOMPARE(iface->role(), checkable ? QAccessible::CheckBox : QAccessible::Button);
+        QCOMPARE(bool(iface->state().hasPopup), menu);
+        QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Send invite"));
+        QCOMPARE(bool(iface->state().checkable), checkable);
+        QCOMPARE(bool(iface->state().checked), checked);
+
+        button.setText(QStringLiteral("Cancel invite"));
+        QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Cancel invite"));
+    }
 };
-
-void tst_KaButton::initTestCase() {
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-}
-
-void tst_KaButton::setStyleAlwaysNotifies_data() {
-    QTest::addColumn<int>("first");
-    QTest::addColumn<int>("second");
-    QTest::newRow("same style") << int(KaButtonEnum::Primary) << int(KaButtonEnum::Primary);
-    QTest::newRow("other style") << int(KaButtonEnum::Primary) << int(KaButtonEnum::Cancel);
-    QTest::newRow("same, not the default") << int(KaButtonEnum::Ghost) << int(KaButtonEnum::Ghost);
-}
-
-void tst_KaButton::setStyleAlwaysNotifies() {
-    QFETCH(int, first);
-    QFETCH(int, second);
-    TestButton button;
-    button.setStyle(KaButtonEnum::Style(first));
-    QSignalSpy styles(&button, &KaButton::styleChanged);
-    QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
-    const int before = button.refreshes;
-
-    button.setStyle(KaButtonEnum::Style(second));
-    QCOMPARE(styles.count(), 1);
-    QCOMPARE(styles.at(0).at(0).value<KaButtonEnum::Style>(), KaButtonEnum::Style(second));
-    // Exactly one refresh: the configuration's own signal is not passed on as well.
-    QCOMPARE(refreshes.count(), 1);
-    QCOMPARE(button.refreshes, before + 1);
-    QCOMPARE(button.style(), KaButtonEnum::Style(second));
-    QCOMPARE(button.getWCSS().backgroundColorSet,
-             KaButtonConfig::colorsFor(second, KaButtonEnum::Inactive).backgroundColorSet);
-}
-
-void tst_KaButton::setSizeDoesNotRepeat_data() {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("expectedSignals");
-    QTest::newRow("current size (Large)") << int(KaButtonEnum::Large) << 0;
-    QTest::newRow("ExtraLarge") << int(KaButtonEnum::ExtraLarge) << 1;
-    QTest::newRow("ExtraSmall") << int(KaButtonEnum::ExtraSmall) << 1;
-}
-
-void tst_KaButton::setSizeDoesNotRepeat() {
-    QFETCH(int, size);
-    QFETCH(int, expectedSignals);
-    TestButton button;
-    QSignalSpy sizes(&button, &KaButton::sizeChanged);
-    QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
-    button.setSize(KaButtonEnum::Size(size));
-    QCOMPARE(sizes.count(), expectedSignals);
-    QCOMPARE(refreshes.count(), expectedSignals);
-    QCOMPARE(button.size(), KaButtonEnum::Size(size));
-
-    // Repeating it never notifies.
-    button.setSize(KaButtonEnum::Size(size));
-    QCOMPARE(sizes.count(), expectedSignals);
-    QCOMPARE(refreshes.count(), expectedSignals);
-}
-
-void tst_KaButton::widthSizePolicy() {
-    TestButton button;
-    QSignalSpy changed(&button, &KaButton::widthSizePolicyChanged);
-    QSignalSpy refreshes(&button, &IKaButton::refreshConfig);
-    button.setWidthSizePolicy(QSizePolicy::Expanding);
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(refreshes.count(), 1);
-    QCOMPARE(button.widthSizePolicy(), QSizePolicy::Expanding);
-    QCOMPARE(button.sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
-    QCOMPARE(button.sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-
-    button.setWidthSizePolicy(QSizePolicy::Expanding);
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(refreshes.count(), 2);
-}
-
-void tst_KaButton::checkedDrivesState_data() {
-    QTest::addColumn<int>("style");
-    QTest::newRow("Secondary") << int(KaButtonEnum::Secondary);
-    QTest::newRow("Ghost") << int(KaButtonEnum::Ghost);
-    QTest::newRow("Primary") << int(KaButtonEnum::Primary);
-}
-
-void tst_KaButton::checkedDrivesState() {
-    QFETCH(int, style);
-    QWidget window;
-    TestButton button(&window);
-    button.setStyle(KaButtonEnum::Style(style));
-    button.setCheckable(true);
-    button.setGeometry(0, 0, 100, 32);
-    window.setGeometry(300, 300, 120, 40);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-
-    const QPoint inside(50, 16);
-    const auto faceFor = [&](bool checked) {
-        const QString set =
-            KaButtonConfig::colorsFor(style, checked ? KaButtonEnum::Active : KaButtonEnum::Inactive)
-                .backgroundColorSet;
-        QStyle::State state = QStyle::State_Enabled;
-        if (checked)
-            state |= QStyle::State_On;
-        return BzThemeUtils::getColorSet(set).colorFor(state);
-    };
-
-    button.setChecked(true);
-    QCOMPARE(button.kaButtonConfig()->state(), KaButtonEnum::Active);
-    QCOMPARE(button.getWCSS().backgroundColorSet,
-             KaButtonConfig::colorsFor(style, KaButtonEnum::Active).backgroundColorSet);
-    const QColor checkedFace = rendered(&button).pixelColor(inside);
-    QCOMPARE(checkedFace.rgba(), faceFor(true).rgba());
-
-    button.setChecked(false);
-    QCOMPARE(button.kaButtonConfig()->state(), KaButtonEnum::Inactive);
-    const QColor uncheckedFace = rendered(&button).pixelColor(inside);
-    if (faceFor(false).alpha() == 255)
-        QCOMPARE(uncheckedFace.rgba(), faceFor(false).rgba());
-    else
-        QCOMPARE(uncheckedFace.alpha(), faceFor(false).alpha());
-    QVERIFY(checkedFace != uncheckedFace);
-}
-
-void tst_KaButton::menuOpensBelowOnPress_data() {
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("left-to-right") << Qt::LeftToRight;
-    QTest::newRow("right-to-left") << Qt::RightToLeft;
-}
-
-void tst_KaButton::menuOpensBelowOnPress() {
-    QFETCH(Qt::LayoutDirection, direction);
-    QWidget window;
-    window.setLayoutDirection(direction);
-    TestButton button(&window);
-    button.setText(QStringLiteral("Options"));
-    button.setRightIcon(QStringLiteral(":/Resources/arrow-down_8.svg"));
-    button.setRightIconOn(QStringLiteral(":/Resources/arrow-up_8.svg"));
-    button.setGeometry(20, 20, 160, 32);
-    window.setGeometry(100, 100, 300, 200);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-
-    auto* menu = new TestMenu(&window);
-    button.setMenu(menu);
-    QCOMPARE(button.attachedMenu(), menu);
-    QVERIFY(button.actions().contains(menu->menuAction()));
-    QVERIFY(!button.isAnchorOn());
-
-    QTest::mousePress(&button, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
-    QTRY_VERIFY(menu->isVisible());
-    // The press was released by the button itself after the pop-up call.
-    QVERIFY(!button.isDown());
-    QVERIFY(button.isAnchorOn());
-
-    const QRect global(button.mapToGlobal(QPoint(0, 0)), button.QWidget::size());
-    QCOMPARE(menu->geometry().top(), global.bottom() + 1);
-    if (direction == Qt::LeftToRight)
-        QCOMPARE(menu->geometry().left(), global.left());
-    else
-        QCOMPARE(menu->geometry().right(), global.right());
-
-    menu->hide();
-    QTRY_VERIFY(!button.isAnchorOn());
-}
-
-void tst_KaButton::firstMenuStays() {
-    TestButton button;
-    button.setMenu(nullptr);
-    QVERIFY(!button.attachedMenu());
-
-    auto* first = new TestMenu;
-    auto* second = new TestMenu;
-    button.setMenu(first);
-    button.setMenu(second);
-    QCOMPARE(button.attachedMenu(), first);
-    QVERIFY(!button.actions().contains(second->menuAction()));
-
-    delete first;
-    QVERIFY(!button.attachedMenu());
-    button.setMenu(second);
-    QCOMPARE(button.attachedMenu(), second);
-    QCOMPARE(button.actions().size(), 1);
-    delete second;
-}
-
-void tst_KaButton::accessibility_data() {
-    QTest::addColumn<bool>("checkable");
-    QTest::addColumn<bool>("checked");
-    QTest::addColumn<bool>("menu");
-    QTest::newRow("plain") << false << false << false;
-    QTest::newRow("checkable, unchecked") << true << false << false;
-    QTest::newRow("checkable, checked") << true << true << false;
-    QTest::newRow("with a menu") << false << false << true;
-}
-
-void tst_KaButton::accessibility() {
-    QFETCH(bool, checkable);
-    QFETCH(bool, checked);
-    QFETCH(bool, menu);
-    QWidget window;
-    TestButton button(&window);
-    button.setText(QStringLiteral("&Send invite"));
-    button.setCheckable(checkable);
-    button.setChecked(checked);
-    if (menu)
-        button.setMenu(new QMenu(&button));
-    window.show();
-
-    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&button);
-    QVERIFY(iface);
-    // Linux screen readers learn of a toggle only from the role.
-    QCOMPARE(iface->role(), checkable ? QAccessible::CheckBox : QAccessible::Button);
-    QCOMPARE(bool(iface->state().hasPopup), menu);
-    QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Send invite"));
-    QCOMPARE(bool(iface->state().checkable), checkable);
-    QCOMPARE(bool(iface->state().checked), checked);
-
-    button.setText(QStringLiteral("Cancel invite"));
-    QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Cancel invite"));
-}
 
 QTEST_MAIN(tst_KaButton)
 #include "tst_kabutton.moc"

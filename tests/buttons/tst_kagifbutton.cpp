@@ -42,107 +42,100 @@ class tst_KaGifButton : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
-    void loadsAnimation();
-    void playsAlways();
-    void playsOnHover();
-    void disabledShowsFirstFrame();
-    void hiddenStops();
-    void shapeFollowsText();
-    void unreadableFile();
+
+    void loadsAnimation() {
+        KaGifButton button;
+        QVERIFY(!button.hasImage());
+        QSignalSpy spy(&button, &KaGifButton::fileNameChanged);
+        button.setFileName(threeFrames());
+        button.setFileName(threeFrames());
+        QCOMPARE(spy.count(), 1);
+        QVERIFY(button.hasImage());
+        QCOMPARE(button.frameCount(), 3);
+        // Not shown: resting on the first frame.
+        QVERIFY(!button.isPlaying());
+        QCOMPARE(button.currentFrameNumber(), 0);
+    }
+
+    void playsAlways() {
+        Shown shown(KaGifButton::PlayAlways);
+        KaGifButton* button = shown.button;
+        QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+        QTRY_VERIFY(button->isPlaying());
+        QSignalSpy frames(button, &KaGifButton::frameChanged);
+        QTRY_VERIFY(frames.count() >= 2);
+        // The painted image follows the frames: it leaves red.
+        QTRY_VERIFY(!reddish(centre(*button)));
+    }
+
+    void playsOnHover() {
+        Shown shown(KaGifButton::PlayOnHover);
+        KaGifButton* button = shown.button;
+        QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+        QTest::mouseMove(&shown.window, QPoint(2, 2));
+        QVERIFY(!button->isPlaying());
+        QVERIFY(reddish(centre(*button)));
+
+        QTest::mouseMove(button, button->rect().center());
+        QTRY_VERIFY(button->isPlaying());
+        QTRY_VERIFY(button->currentFrameNumber() > 0);
+        QTest::mouseMove(&shown.window, QPoint(2, 2));
+        QTRY_VERIFY(!button->isPlaying());
+        QCOMPARE(button->currentFrameNumber(), 0);
+    }
+
+    void disabledShowsFirstFrame() {
+        Shown shown(KaGifButton::PlayAlways);
+        KaGifButton* button = shown.button;
+        QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+        QTRY_VERIFY(button->currentFrameNumber() > 0);
+        button->setEnabled(false);
+        QVERIFY(!button->isPlaying());
+        QCOMPARE(button->currentFrameNumber(), 0);
+        // Faded, but the first frame's red.
+        QVERIFY(reddish(centre(*button)));
+        button->setEnabled(true);
+        QTRY_VERIFY(button->isPlaying());
+    }
+
+    void hiddenStops() {
+        Shown shown(KaGifButton::PlayAlways);
+        QTRY_VERIFY(shown.button->isPlaying());
+        shown.button->hide();
+        QVERIFY(!shown.button->isPlaying());
+        shown.button->show();
+        QTRY_VERIFY(shown.button->isPlaying());
+    }
+
+    void shapeFollowsText() {
+        KaGifButton button(nullptr, KaButtonEnum::Secondary, KaButtonEnum::Large);
+        button.setFileName(threeFrames());
+        // Image only: a 32 px circle around a 20 px image.
+        QCOMPARE(button.minimumSize(), QSize(32, 32));
+        QCOMPARE(button.maximumSize(), QSize(32, 32));
+        button.resize(32, 32);
+        QVERIFY(reddish(rendered(&button).pixelColor(7, 16)));
+        QVERIFY(!reddish(rendered(&button).pixelColor(5, 16)));
+
+        button.setText(QStringLiteral("Celebrate"));
+        QVERIFY(button.maximumWidth() > 32);
+        // Padding 12, image 20, spacing 6, text, padding 12.
+        const int textWidth = button.fontMetrics().size(Qt::TextSingleLine, button.text()).width();
+        QCOMPARE(button.sizeHint().width(), 12 + 20 + 6 + textWidth + 12);
+        button.setImageSize(QSize(24, 24));
+        QCOMPARE(button.sizeHint().width(), 12 + 24 + 6 + textWidth + 12);
+    }
+
+    void unreadableFile() {
+        KaGifButton button;
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot read")));
+        button.setFileName(QStringLiteral(":/no/such/image.gif"));
+        QVERIFY(!button.hasImage());
+        QCOMPARE(button.currentFrameNumber(), -1);
+        button.resize(32, 32);
+        rendered(&button);
+    }
 };
-
-void tst_KaGifButton::loadsAnimation() {
-    KaGifButton button;
-    QVERIFY(!button.hasImage());
-    QSignalSpy spy(&button, &KaGifButton::fileNameChanged);
-    button.setFileName(threeFrames());
-    button.setFileName(threeFrames());
-    QCOMPARE(spy.count(), 1);
-    QVERIFY(button.hasImage());
-    QCOMPARE(button.frameCount(), 3);
-    // Not shown: resting on the first frame.
-    QVERIFY(!button.isPlaying());
-    QCOMPARE(button.currentFrameNumber(), 0);
-}
-
-void tst_KaGifButton::playsAlways() {
-    Shown shown(KaGifButton::PlayAlways);
-    KaGifButton* button = shown.button;
-    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
-    QTRY_VERIFY(button->isPlaying());
-    QSignalSpy frames(button, &KaGifButton::frameChanged);
-    QTRY_VERIFY(frames.count() >= 2);
-    // The painted image follows the frames: it leaves red.
-    QTRY_VERIFY(!reddish(centre(*button)));
-}
-
-void tst_KaGifButton::playsOnHover() {
-    Shown shown(KaGifButton::PlayOnHover);
-    KaGifButton* button = shown.button;
-    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
-    QTest::mouseMove(&shown.window, QPoint(2, 2));
-    QVERIFY(!button->isPlaying());
-    QVERIFY(reddish(centre(*button)));
-
-    QTest::mouseMove(button, button->rect().center());
-    QTRY_VERIFY(button->isPlaying());
-    QTRY_VERIFY(button->currentFrameNumber() > 0);
-    QTest::mouseMove(&shown.window, QPoint(2, 2));
-    QTRY_VERIFY(!button->isPlaying());
-    QCOMPARE(button->currentFrameNumber(), 0);
-}
-
-void tst_KaGifButton::disabledShowsFirstFrame() {
-    Shown shown(KaGifButton::PlayAlways);
-    KaGifButton* button = shown.button;
-    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
-    QTRY_VERIFY(button->currentFrameNumber() > 0);
-    button->setEnabled(false);
-    QVERIFY(!button->isPlaying());
-    QCOMPARE(button->currentFrameNumber(), 0);
-    // Faded, but the first frame's red.
-    QVERIFY(reddish(centre(*button)));
-    button->setEnabled(true);
-    QTRY_VERIFY(button->isPlaying());
-}
-
-void tst_KaGifButton::hiddenStops() {
-    Shown shown(KaGifButton::PlayAlways);
-    QTRY_VERIFY(shown.button->isPlaying());
-    shown.button->hide();
-    QVERIFY(!shown.button->isPlaying());
-    shown.button->show();
-    QTRY_VERIFY(shown.button->isPlaying());
-}
-
-void tst_KaGifButton::shapeFollowsText() {
-    KaGifButton button(nullptr, KaButtonEnum::Secondary, KaButtonEnum::Large);
-    button.setFileName(threeFrames());
-    // Image only: a 32 px circle around a 20 px image.
-    QCOMPARE(button.minimumSize(), QSize(32, 32));
-    QCOMPARE(button.maximumSize(), QSize(32, 32));
-    button.resize(32, 32);
-    QVERIFY(reddish(rendered(&button).pixelColor(7, 16)));
-    QVERIFY(!reddish(rendered(&button).pixelColor(5, 16)));
-
-    button.setText(QStringLiteral("Celebrate"));
-    QVERIFY(button.maximumWidth() > 32);
-    // Padding 12, image 20, spacing 6, text, padding 12.
-    const int textWidth = button.fontMetrics().size(Qt::TextSingleLine, button.text()).width();
-    QCOMPARE(button.sizeHint().width(), 12 + 20 + 6 + textWidth + 12);
-    button.setImageSize(QSize(24, 24));
-    QCOMPARE(button.sizeHint().width(), 12 + 24 + 6 + textWidth + 12);
-}
-
-void tst_KaGifButton::unreadableFile() {
-    KaGifButton button;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot read")));
-    button.setFileName(QStringLiteral(":/no/such/image.gif"));
-    QVERIFY(!button.hasImage());
-    QCOMPARE(button.currentFrameNumber(), -1);
-    button.resize(32, 32);
-    rendered(&button);
-}
 
 QTEST_MAIN(tst_KaGifButton)
 #include "tst_kagifbutton.moc"

@@ -40,101 +40,96 @@ class tst_KaHyperlinkButton : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
-    void linkColours();
-    void underlinedOnHover();
-    void alwaysUnderline();
-    void geometryBySize();
-    void iconWidensButton();
+
+    void linkColours() {
+        KaHyperlinkButton link(QStringLiteral("Learn more"));
+        const BzCSSData record = link.getWCSS();
+        QCOMPARE(record.backgroundColorSet, QStringLiteral("button-hyperlink-background"));
+        QCOMPARE(record.borderColorSet, QStringLiteral("button-hyperlink-border"));
+        QCOMPARE(record.textColorSet, QStringLiteral("button-hyperlink-text"));
+        QCOMPARE(record.borderRadius, 4);
+        QCOMPARE(link.cursor().shape(), Qt::PointingHandCursor);
+
+        link.resize(link.sizeHint());
+        // The face is invisible at rest and the text is painted in link colour.
+        const QImage image = rendered(&link);
+        QCOMPARE(image.pixelColor(2, 2).alpha(), 0);
+        bool linkColoured = false;
+        for (int y = 0; y < image.height() && !linkColoured; ++y) {
+            for (int x = 0; x < image.width() && !linkColoured; ++x)
+                linkColoured = image.pixelColor(x, y).rgb() == linkText().normal().rgb();
+        }
+        QVERIFY(linkColoured);
+    }
+
+    void underlinedOnHover() {
+        QWidget window;
+        auto* link = new KaHyperlinkButton(QStringLiteral("Learn more"), &window);
+        link->move(20, 20);
+        window.resize(200, 80);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTest::mouseMove(&window, QPoint(5, 5));
+        QVERIFY(!link->isUnderlined());
+        link->resize(link->sizeHint());
+        const int textWidth = link->fontMetrics().horizontalAdvance(link->text());
+        const QImage plain = rendered(link);
+        QVERIFY(longestRunBelowCentre(plain, linkText().normal()) < textWidth / 2);
+
+        QTest::mouseMove(link, link->rect().center());
+        QTRY_VERIFY(link->isUnderlined());
+        link->setAttribute(Qt::WA_UnderMouse, true);
+        const QImage hovered = rendered(link);
+        QVERIFY(longestRunBelowCentre(hovered, linkText().hovered()) >= textWidth * 9 / 10);
+
+        QTest::mouseMove(&window, QPoint(5, 5));
+        QTRY_VERIFY(!link->isUnderlined());
+
+        // A disabled link does not react to the pointer.
+        link->setEnabled(false);
+        QTest::mouseMove(link, link->rect().center());
+        QTRY_VERIFY(link->underMouse());
+        QVERIFY(!link->isUnderlined());
+    }
+
+    void alwaysUnderline() {
+        KaHyperlinkButton link(QStringLiteral("Terms"));
+        QSignalSpy spy(&link, &KaHyperlinkButton::alwaysUnderlineChanged);
+        link.setAlwaysUnderline(true);
+        link.setAlwaysUnderline(true);
+        QCOMPARE(spy.count(), 1);
+        QVERIFY(link.isUnderlined());
+        link.setAlwaysUnderline(false);
+        QVERIFY(!link.isUnderlined());
+    }
+
+    // Fixed height; smaller sizes never get taller or larger text.
+    void geometryBySize() {
+        KaHyperlinkButton link(QStringLiteral("Learn more"));
+        int previousHeight = INT_MAX;
+        int previousPixels = INT_MAX;
+        for (int size = KaButtonEnum::ExtraLarge; size <= KaButtonEnum::ExtraSmall; ++size) {
+            link.setSize(KaButtonEnum::Size(size));
+            QCOMPARE(link.minimumHeight(), link.maximumHeight());
+            QVERIFY(link.maximumHeight() > link.fontMetrics().height());
+            QVERIFY(link.maximumHeight() <= previousHeight);
+            QVERIFY(link.font().pixelSize() <= previousPixels);
+            previousHeight = link.maximumHeight();
+            previousPixels = link.font().pixelSize();
+        }
+        QVERIFY(previousHeight < QWIDGETSIZE_MAX);
+    }
+
+    void iconWidensButton() {
+        KaHyperlinkButton link(QStringLiteral("Open"));
+        const int plain = link.sizeHint().width();
+        link.setLeftIcon(QStringLiteral("qrc:/Resources/pop-out-regular.svg"));
+        // Normal: a 16 px icon and 4 px spacing.
+        QCOMPARE(link.sizeHint().width(), plain + 20);
+        link.setLeftIcon(QString());
+        QCOMPARE(link.sizeHint().width(), plain);
+    }
 };
-
-void tst_KaHyperlinkButton::linkColours() {
-    KaHyperlinkButton link(QStringLiteral("Learn more"));
-    const BzCSSData record = link.getWCSS();
-    QCOMPARE(record.backgroundColorSet, QStringLiteral("button-hyperlink-background"));
-    QCOMPARE(record.borderColorSet, QStringLiteral("button-hyperlink-border"));
-    QCOMPARE(record.textColorSet, QStringLiteral("button-hyperlink-text"));
-    QCOMPARE(record.borderRadius, 4);
-    QCOMPARE(link.cursor().shape(), Qt::PointingHandCursor);
-
-    link.resize(link.sizeHint());
-    // The face is invisible at rest and the text is painted in link colour.
-    const QImage image = rendered(&link);
-    QCOMPARE(image.pixelColor(2, 2).alpha(), 0);
-    bool linkColoured = false;
-    for (int y = 0; y < image.height() && !linkColoured; ++y) {
-        for (int x = 0; x < image.width() && !linkColoured; ++x)
-            linkColoured = image.pixelColor(x, y).rgb() == linkText().normal().rgb();
-    }
-    QVERIFY(linkColoured);
-}
-
-void tst_KaHyperlinkButton::underlinedOnHover() {
-    QWidget window;
-    auto* link = new KaHyperlinkButton(QStringLiteral("Learn more"), &window);
-    link->move(20, 20);
-    window.resize(200, 80);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QTest::mouseMove(&window, QPoint(5, 5));
-    QVERIFY(!link->isUnderlined());
-    link->resize(link->sizeHint());
-    const int textWidth = link->fontMetrics().horizontalAdvance(link->text());
-    const QImage plain = rendered(link);
-    QVERIFY(longestRunBelowCentre(plain, linkText().normal()) < textWidth / 2);
-
-    QTest::mouseMove(link, link->rect().center());
-    QTRY_VERIFY(link->isUnderlined());
-    link->setAttribute(Qt::WA_UnderMouse, true);
-    const QImage hovered = rendered(link);
-    QVERIFY(longestRunBelowCentre(hovered, linkText().hovered()) >= textWidth * 9 / 10);
-
-    QTest::mouseMove(&window, QPoint(5, 5));
-    QTRY_VERIFY(!link->isUnderlined());
-
-    // A disabled link does not react to the pointer.
-    link->setEnabled(false);
-    QTest::mouseMove(link, link->rect().center());
-    QTRY_VERIFY(link->underMouse());
-    QVERIFY(!link->isUnderlined());
-}
-
-void tst_KaHyperlinkButton::alwaysUnderline() {
-    KaHyperlinkButton link(QStringLiteral("Terms"));
-    QSignalSpy spy(&link, &KaHyperlinkButton::alwaysUnderlineChanged);
-    link.setAlwaysUnderline(true);
-    link.setAlwaysUnderline(true);
-    QCOMPARE(spy.count(), 1);
-    QVERIFY(link.isUnderlined());
-    link.setAlwaysUnderline(false);
-    QVERIFY(!link.isUnderlined());
-}
-
-// Fixed height; smaller sizes never get taller or larger text.
-void tst_KaHyperlinkButton::geometryBySize() {
-    KaHyperlinkButton link(QStringLiteral("Learn more"));
-    int previousHeight = INT_MAX;
-    int previousPixels = INT_MAX;
-    for (int size = KaButtonEnum::ExtraLarge; size <= KaButtonEnum::ExtraSmall; ++size) {
-        link.setSize(KaButtonEnum::Size(size));
-        QCOMPARE(link.minimumHeight(), link.maximumHeight());
-        QVERIFY(link.maximumHeight() > link.fontMetrics().height());
-        QVERIFY(link.maximumHeight() <= previousHeight);
-        QVERIFY(link.font().pixelSize() <= previousPixels);
-        previousHeight = link.maximumHeight();
-        previousPixels = link.font().pixelSize();
-    }
-    QVERIFY(previousHeight < QWIDGETSIZE_MAX);
-}
-
-void tst_KaHyperlinkButton::iconWidensButton() {
-    KaHyperlinkButton link(QStringLiteral("Open"));
-    const int plain = link.sizeHint().width();
-    link.setLeftIcon(QStringLiteral("qrc:/Resources/pop-out-regular.svg"));
-    // Normal: a 16 px icon and 4 px spacing.
-    QCOMPARE(link.sizeHint().width(), plain + 20);
-    link.setLeftIcon(QString());
-    QCOMPARE(link.sizeHint().width(), plain);
-}
 
 QTEST_MAIN(tst_KaHyperlinkButton)
 #include "tst_kahyperlinkbutton.moc"

@@ -13,85 +13,80 @@ class tst_KaOverlayButtonConfig : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
-    void colours_data();
-    void colours();
-    void arrowFollowsLayoutDirection_data();
-    void arrowFollowsLayoutDirection();
-    void sizeNotifiesOnlyOnChange();
-};
 
-void tst_KaOverlayButtonConfig::colours_data() {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("coloured");
-    QTest::newRow("None") << 0 << false;
-    QTest::newRow("ExpandAreaOverlay") << 1 << true;
-    QTest::newRow("CollapseAreaOverlay") << 2 << true;
-    QTest::newRow("outside the enumeration") << 3 << false;
-}
-
-void tst_KaOverlayButtonConfig::colours() {
-    QFETCH(int, type);
-    QFETCH(bool, coloured);
-    KaOverlayButtonConfig config;
-    config.setType(KaOverlayButtonEnum::Type(type));
-    KaButtonConfigRecord record;
-    config.fillConfig(record);
-    if (coloured) {
-        QCOMPARE(record.colors.backgroundColorSet, QStringLiteral("button-overlay-background"));
-        QCOMPARE(record.colors.borderColorSet, QStringLiteral("button-overlay-border"));
-        QCOMPARE(record.colors.textColorSet, QStringLiteral("button-overlay-text"));
-        QVERIFY(record.colors.hasAnyBorder());
-    } else {
-        QCOMPARE(record.colors, KaButtonConfigRecord::Colors());
+    void colours_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("coloured");
+        QTest::newRow("None") << 0 << false;
+        QTest::newRow("ExpandAreaOverlay") << 1 << true;
+        QTest::newRow("CollapseAreaOverlay") << 2 << true;
+        QTest::newRow("outside the enumeration") << 3 << false;
     }
-}
 
-void tst_KaOverlayButtonConfig::arrowFollowsLayoutDirection_data() {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<QString>("icon");
-    QTest::newRow("expand, ltr") << 1 << Qt::LeftToRight << kRight;
-    QTest::newRow("expand, rtl") << 1 << Qt::RightToLeft << kLeft;
-    QTest::newRow("collapse, ltr") << 2 << Qt::LeftToRight << kLeft;
-    QTest::newRow("collapse, rtl") << 2 << Qt::RightToLeft << kRight;
-    QTest::newRow("none, ltr") << 0 << Qt::LeftToRight << QString();
-    QTest::newRow("none, rtl") << 0 << Qt::RightToLeft << QString();
-}
+    void colours() {
+        QFETCH(int, type);
+        QFETCH(bool, coloured);
+        KaOverlayButtonConfig config;
+        config.setType(KaOverlayButtonEnum::Type(type));
+        KaButtonConfigRecord record;
+        config.fillConfig(record);
+        if (coloured) {
+            QCOMPARE(record.colors.backgroundColorSet, QStringLiteral("button-overlay-background"));
+            QCOMPARE(record.colors.borderColorSet, QStringLiteral("button-overlay-border"));
+            QCOMPARE(record.colors.textColorSet, QStringLiteral("button-overlay-text"));
+            QVERIFY(record.colors.hasAnyBorder());
+        } else {
+            QCOMPARE(record.colors, KaButtonConfigRecord::Colors());
+        }
+    }
 
-void tst_KaOverlayButtonConfig::arrowFollowsLayoutDirection() {
-    QFETCH(int, type);
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(QString, icon);
-    KaOverlayButtonConfig config;
-    config.setType(KaOverlayButtonEnum::Type(type));
+    void arrowFollowsLayoutDirection_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<QString>("icon");
+        QTest::newRow("expand, ltr") << 1 << Qt::LeftToRight << kRight;
+        QTest::newRow("expand, rtl") << 1 << Qt::RightToLeft << kLeft;
+        QTest::newRow("collapse, ltr") << 2 << Qt::LeftToRight << kLeft;
+        QTest::newRow("collapse, rtl") << 2 << Qt::RightToLeft << kRight;
+        QTest::newRow("none, ltr") << 0 << Qt::LeftToRight << QString();
+        QTest::newRow("none, rtl") << 0 << Qt::RightToLeft << QString();
+    }
 
-    KaOverlayButtonConfig::Geometry g;
-    config.fillGeometry(g, direction);
-    QCOMPARE(g.svgIcon, icon);
-    QCOMPARE(g.svgIconAlignment, BzEnum::AlignCenter);
+    void arrowFollowsLayoutDirection() {
+        QFETCH(int, type);
+        QFETCH(Qt::LayoutDirection, direction);
+        QFETCH(QString, icon);
+        KaOverlayButtonConfig config;
+        config.setType(KaOverlayButtonEnum::Type(type));
 
-    // Without a direction the application's one decides.
-    QGuiApplication::setLayoutDirection(direction);
-    KaOverlayButtonConfig::Geometry appGeometry;
-    config.fillGeometry(appGeometry);
-    QCOMPARE(appGeometry.svgIcon, icon);
-}
+        KaOverlayButtonConfig::Geometry g;
+        config.fillGeometry(g, direction);
+        QCOMPARE(g.svgIcon, icon);
+        QCOMPARE(g.svgIconAlignment, BzEnum::AlignCenter);
 
-void tst_KaOverlayButtonConfig::sizeNotifiesOnlyOnChange() {
-    KaOverlayButtonConfig config;
-    QSignalSpy sizeSpy(&config, &KaOverlayButtonConfig::sizeChanged);
-    config.setSize(config.size());
-    QCOMPARE(sizeSpy.count(), 0);
-    config.setSize(KaOverlayButtonEnum::Micro);
-    config.setSize(KaOverlayButtonEnum::Micro);
-    QCOMPARE(sizeSpy.count(), 1);
-    KaOverlayButtonConfig::Geometry micro;
-    config.fillGeometry(micro, Qt::LeftToRight);
-    config.setSize(KaOverlayButtonEnum::ExtraLarge);
-    KaOverlayButtonConfig::Geometry large;
-    config.fillGeometry(large, Qt::LeftToRight);
-    QVERIFY(micro.fixedHeight < large.fixedHeight);
-}
+        // Without a direction the application's one decides.
+        QGuiApplication::setLayoutDirection(direction);
+        KaOverlayButtonConfig::Geometry appGeometry;
+        config.fillGeometry(appGeometry);
+        QCOMPARE(appGeometry.svgIcon, icon);
+    }
+
+    void sizeNotifiesOnlyOnChange() {
+        KaOverlayButtonConfig config;
+        QSignalSpy sizeSpy(&config, &KaOverlayButtonConfig::sizeChanged);
+        config.setSize(config.size());
+        QCOMPARE(sizeSpy.count(), 0);
+        config.setSize(KaOverlayButtonEnum::Micro);
+        config.setSize(KaOverlayButtonEnum::Micro);
+        QCOMPARE(sizeSpy.count(), 1);
+        KaOverlayButtonConfig::Geometry micro;
+        config.fillGeometry(micro, Qt::LeftToRight);
+        config.setSize(KaOverlayButtonEnum::ExtraLarge);
+        KaOverlayButtonConfig::Geometry large;
+        config.fillGeometry(large, Qt::LeftToRight);
+        QVERIFY(micro.fixedHeight < large.fixedHeight);
+    }
+};
 
 QTEST_MAIN(tst_KaOverlayButtonConfig)
 #include "tst_kaoverlaybuttonconfig.moc"

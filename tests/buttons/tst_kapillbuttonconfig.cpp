@@ -7,127 +7,119 @@
 class tst_KaPillButtonConfig : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void iconsOnlyAtPillSizes_data();
-    void iconsOnlyAtPillSizes();
-    void missingIcons_data();
-    void missingIcons();
-    void leftIconPathDrivesSpacing();
-    void widthPolicy_data();
-    void widthPolicy();
-};
-
-void tst_KaPillButtonConfig::iconsOnlyAtPillSizes_data() {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<bool>("pillSize");
-    const QMetaEnum sizes = QMetaEnum::fromType<KaButtonEnum::Size>();
-    for (int i = 0; i < sizes.keyCount(); ++i)
-        QTest::newRow(sizes.key(i)) << sizes.value(i) << (sizes.value(i) <= KaButtonEnum::ExtraSmall);
-    QTest::newRow("outside the enumeration") << 7 << false;
-}
-
-// Sizes below ExtraSmall are not pill sizes: no height, icons hidden even
-// when present. The width policy and icon alignment hold for every size.
-void tst_KaPillButtonConfig::iconsOnlyAtPillSizes() {
-    QFETCH(int, size);
-    QFETCH(bool, pillSize);
-    KaPillButtonConfig pill;
-    pill.setHasLeftIcon(true);
-    pill.setHasRightIcon(true);
-    pill.setSize(KaButtonEnum::Size(size));
-    KaPillButtonConfig::Geometry g;
-    pill.fillGeometry(g);
-    QCOMPARE(g.fixedHeight > 0, pillSize);
-    QCOMPARE(g.svgIconVisible, pillSize);
-    QCOMPARE(g.anchorIconVisible, pillSize);
-    if (pillSize) {
-        QCOMPARE(g.anchorIconSize, g.svgIconSize);
-        QVERIFY(g.fontToken != 0);
+    void iconsOnlyAtPillSizes_data() {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("pillSize");
+        const QMetaEnum sizes = QMetaEnum::fromType<KaButtonEnum::Size>();
+        for (int i = 0; i < sizes.keyCount(); ++i)
+            QTest::newRow(sizes.key(i)) << sizes.value(i) << (sizes.value(i) <= KaButtonEnum::ExtraSmall);
+        QTest::newRow("outside the enumeration") << 7 << false;
     }
-    QVERIFY(g.alignAnchorIconToText);
-    QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(g.sizePolicy.horizontalPolicy(), QSizePolicy::Maximum);
-}
 
-void tst_KaPillButtonConfig::missingIcons_data() {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<bool>("left");
-    QTest::addColumn<bool>("right");
-    QTest::addColumn<QSize>("leftSize");
-    QTest::addColumn<int>("leftSpacing");
-    QTest::addColumn<QSize>("rightSize");
-    QTest::addColumn<int>("rightSpacing");
+    // Sizes below ExtraSmall are not pill sizes: no height, icons hidden even
+    // when present. The width policy and icon alignment hold for every size.
+    void iconsOnlyAtPillSizes() {
+        QFETCH(int, size);
+        QFETCH(bool, pillSize);
+        KaPillButtonConfig pill;
+        pill.setHasLeftIcon(true);
+        pill.setHasRightIcon(true);
+        pill.setSize(KaButtonEnum::Size(size));
+        KaPillButtonConfig::Geometry g;
+        pill.fillGeometry(g);
+        QCOMPARE(g.fixedHeight > 0, pillSize);
+        QCOMPARE(g.svgIconVisible, pillSize);
+        QCOMPARE(g.anchorIconVisible, pillSize);
+        if (pillSize) {
+            QCOMPARE(g.anchorIconSize, g.svgIconSize);
+            QVERIFY(g.fontToken != 0);
+        }
+        QVERIFY(g.alignAnchorIconToText);
+        QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
+        QCOMPARE(g.sizePolicy.horizontalPolicy(), QSizePolicy::Maximum);
+    }
 
-    QTest::newRow("Large, none") << 1 << false << false << QSize(0, 0) << 0 << QSize(0, 0) << 0;
-    QTest::newRow("Large, left") << 1 << true << false << QSize(16, 16) << 6 << QSize(0, 0) << 0;
-    QTest::newRow("Large, right") << 1 << false << true << QSize(0, 0) << 0 << QSize(16, 16) << 6;
-    QTest::newRow("ExtraLarge, right") << 0 << false << true << QSize(0, 0) << 0 << QSize(20, 20) << 6;
-    QTest::newRow("ExtraSmall, left") << 4 << true << false << QSize(16, 16) << 4 << QSize(0, 0) << 0;
-}
+    void missingIcons_data() {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("left");
+        QTest::addColumn<bool>("right");
+        QTest::addColumn<QSize>("leftSize");
+        QTest::addColumn<int>("leftSpacing");
+        QTest::addColumn<QSize>("rightSize");
+        QTest::addColumn<int>("rightSpacing");
 
-void tst_KaPillButtonConfig::missingIcons() {
-    QFETCH(int, size);
-    QFETCH(bool, left);
-    QFETCH(bool, right);
-    QFETCH(QSize, leftSize);
-    QFETCH(int, leftSpacing);
-    QFETCH(QSize, rightSize);
-    QFETCH(int, rightSpacing);
+        QTest::newRow("Large, none") << 1 << false << false << QSize(0, 0) << 0 << QSize(0, 0) << 0;
+        QTest::newRow("Large, left") << 1 << true << false << QSize(16, 16) << 6 << QSize(0, 0) << 0;
+        QTest::newRow("Large, right") << 1 << false << true << QSize(0, 0) << 0 << QSize(16, 16) << 6;
+        QTest::newRow("ExtraLarge, right") << 0 << false << true << QSize(0, 0) << 0 << QSize(20, 20) << 6;
+        QTest::newRow("ExtraSmall, left") << 4 << true << false << QSize(16, 16) << 4 << QSize(0, 0) << 0;
+    }
 
-    KaPillButtonConfig pill;
-    pill.setSize(KaButtonEnum::Size(size));
-    pill.setHasLeftIcon(left);
-    pill.setHasRightIcon(right);
-    KaPillButtonConfig::Geometry g;
-    pill.fillGeometry(g);
-    QCOMPARE(g.svgIconSize, leftSize);
-    QCOMPARE(g.svgIconSpacing, leftSpacing);
-    QCOMPARE(g.anchorIconSize, rightSize);
-    QCOMPARE(g.anchorIconSpacing, rightSpacing);
-    QCOMPARE(g.svgIconVisible, left);
-    QCOMPARE(g.anchorIconVisible, right);
-}
+    void missingIcons() {
+        QFETCH(int, size);
+        QFETCH(bool, left);
+        QFETCH(bool, right);
+        QFETCH(QSize, leftSize);
+        QFETCH(int, leftSpacing);
+        QFETCH(QSize, rightSize);
+        QFETCH(int, rightSpacing);
 
-void tst_KaPillButtonConfig::leftIconPathDrivesSpacing() {
-    KaPillButtonConfig pill;
-    pill.setSize(KaButtonEnum::Normal);
-    QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
-    KaPillButtonConfig::Geometry g;
+        KaPillButtonConfig pill;
+        pill.setSize(KaButtonEnum::Size(size));
+        pill.setHasLeftIcon(left);
+        pill.setHasRightIcon(right);
+        KaPillButtonConfig::Geometry g;
+        pill.fillGeometry(g);
+        QCOMPARE(g.svgIconSize, leftSize);
+        QCOMPARE(g.svgIconSpacing, leftSpacing);
+        QCOMPARE(g.anchorIconSize, rightSize);
+        QCOMPARE(g.anchorIconSpacing, rightSpacing);
+        QCOMPARE(g.svgIconVisible, left);
+        QCOMPARE(g.anchorIconVisible, right);
+    }
 
-    pill.setLeftIcon(QStringLiteral("qrc:/Resources/meet-bold.svg"));
-    pill.fillGeometry(g);
-    QCOMPARE(g.svgIconSpacing, 4);
-    QCOMPARE(g.svgIconSize, QSize(16, 16));
+    void leftIconPathDrivesSpacing() {
+        KaPillButtonConfig pill;
+        pill.setSize(KaButtonEnum::Normal);
+        QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
+        KaPillButtonConfig::Geometry g;
 
-    pill.setLeftIcon(QString());
-    pill.fillGeometry(g);
-    QCOMPARE(g.svgIconSpacing, 0);
-    QCOMPARE(g.svgIconSize, QSize(0, 0));
-    QCOMPARE(g.svgIconVisible, false);
-    QCOMPARE(configSpy.count(), 2);
-}
+        pill.setLeftIcon(QStringLiteral("qrc:/Resources/meet-bold.svg"));
+        pill.fillGeometry(g);
+        QCOMPARE(g.svgIconSpacing, 4);
+        QCOMPARE(g.svgIconSize, QSize(16, 16));
 
-void tst_KaPillButtonConfig::widthPolicy_data() {
-    QTest::addColumn<int>("policy");
-    QTest::newRow("Expanding") << int(QSizePolicy::Expanding);
-    QTest::newRow("Preferred") << int(QSizePolicy::Preferred);
-    QTest::newRow("Maximum again") << int(QSizePolicy::Maximum);
-}
+        pill.setLeftIcon(QString());
+        pill.fillGeometry(g);
+        QCOMPARE(g.svgIconSpacing, 0);
+        QCOMPARE(g.svgIconSize, QSize(0, 0));
+        QCOMPARE(g.svgIconVisible, false);
+        QCOMPARE(configSpy.count(), 2);
+    }
 
-void tst_KaPillButtonConfig::widthPolicy() {
-    QFETCH(int, policy);
-    KaPillButtonConfig pill;
-    QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
-    QSignalSpy policySpy(&pill, &KaButtonConfig::widthSizePolicyChanged);
-    pill.setWidthSizePolicy(QSizePolicy::Policy(policy));
-    // Always a refresh; the property signal only on a change.
-    QCOMPARE(configSpy.count(), 1);
-    QCOMPARE(policySpy.count(), policy == QSizePolicy::Maximum ? 0 : 1);
-    KaPillButtonConfig::Geometry g;
-    pill.fillGeometry(g);
-    QCOMPARE(int(g.sizePolicy.horizontalPolicy()), policy);
-    QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(g.sizePolicy.controlType(), QSizePolicy::DefaultType);
-}
+    void widthPolicy_data() {
+        QTest::addColumn<int>("policy");
+        QTest::newRow("Expanding") << int(QSizePolicy::Expanding);
+        QTest::newRow("Preferred") << int(QSizePolicy::Preferred);
+        QTest::newRow("Maximum again") << int(QSizePolicy::Maximum);
+    }
+
+    void widthPolicy() {
+        QFETCH(int, policy);
+        KaPillButtonConfig pill;
+        QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
+        QSignalSpy policySpy(&pill, &KaButtonConfig::widthSizePolicyChanged);
+        pill.setWidthSizePolicy(QSizePolicy::Policy(policy));
+        // Always a refresh; the property signal only on a change.
+        QCOMPARE(configSpy.count(), 1);
+        QCOMPARE(policySpy.count(), policy == QSizePolicy::Maximum ? 0 : 1);
+        KaPillButtonConfig::Geometry g;
+        pill.fillGeometry(g);
+        QCOMPARE(int(g.sizePolicy.horizontalPolicy()), policy);
+        QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
+        QCOMPARE(g.sizePolicy.controlType(), QSizePolicy::DefaultType);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_KaPillButtonConfig)
 #include "tst_kapillbuttonconfig.moc"

@@ -38,145 +38,132 @@ QRgb innerOf(const QString& theme) {
 class tst_CustomFocusOverlay : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
 
-    void colorsOfEachTheme_data();
-    void colorsOfEachTheme();
-    void themeChangeReresolves();
-    void followsThemeTypeOfParent();
-    void radiusAndCornerMask_data();
-    void radiusAndCornerMask();
-    void mouseGoesThrough();
-};
-
-void tst_CustomFocusOverlay::init() {
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-}
-
-void tst_CustomFocusOverlay::cleanup() {
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-    QCoreApplication::processEvents();
-}
-
-void tst_CustomFocusOverlay::colorsOfEachTheme_data() {
-    QTest::addColumn<QString>("theme");
-    QTest::addColumn<bool>("opaque");
-    for (const char* theme : {"light", "dark", "highContrast"}) {
-        QTest::addRow("%s", theme) << QString::fromLatin1(theme) << false;
-        QTest::addRow("%s, opaque", theme) << QString::fromLatin1(theme) << true;
+    void cleanup() {
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
+        QCoreApplication::processEvents();
     }
-}
 
-void tst_CustomFocusOverlay::colorsOfEachTheme() {
-    QFETCH(QString, theme);
-    QFETCH(bool, opaque);
-    QVERIFY(BzThemeManager::instance()->setCurrentTheme(theme));
+    void colorsOfEachTheme_data() {
+        QTest::addColumn<QString>("theme");
+        QTest::addColumn<bool>("opaque");
+        for (const char* theme : {"light", "dark", "highContrast"}) {
+            QTest::addRow("%s", theme) << QString::fromLatin1(theme) << false;
+            QTest::addRow("%s, opaque", theme) << QString::fromLatin1(theme) << true;
+        }
+    }
 
-    CustomFocusOverlay overlay(kOuter, kInner, opaque);
-    QCOMPARE(overlay.objectName(), QStringLiteral("CustomFocusOverlay"));
-    overlay.resize(60, 30);
-    const QImage image = render(&overlay);
-    const QRgb outer = outerOf(theme);
-    const QRgb inner = innerOf(theme);
-    // The normal colours of the two sets differ in every theme, so the
-    // bands tell them apart.
-    QVERIFY(outer != inner);
-    QCOMPARE(image.pixel(2, 15), outer);
-    QCOMPARE(image.pixel(4, 15), inner);
-    QCOMPARE(qAlpha(image.pixel(0, 15)), opaque ? 255 : 77);
-    QCOMPARE(qAlpha(image.pixel(30, 15)), 0);
-}
+    void colorsOfEachTheme() {
+        QFETCH(QString, theme);
+        QFETCH(bool, opaque);
+        QVERIFY(BzThemeManager::instance()->setCurrentTheme(theme));
 
-void tst_CustomFocusOverlay::themeChangeReresolves() {
-    QWidget window;
-    window.resize(200, 100);
-    auto* overlay = new CustomFocusOverlay(kOuter, kInner, false, &window);
-    overlay->setGeometry(10, 10, 60, 30);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("light")));
+        CustomFocusOverlay overlay(kOuter, kInner, opaque);
+        QCOMPARE(overlay.objectName(), QStringLiteral("CustomFocusOverlay"));
+        overlay.resize(60, 30);
+        const QImage image = render(&overlay);
+        const QRgb outer = outerOf(theme);
+        const QRgb inner = innerOf(theme);
+        // The normal colours of the two sets differ in every theme, so the
+        // bands tell them apart.
+        QVERIFY(outer != inner);
+        QCOMPARE(image.pixel(2, 15), outer);
+        QCOMPARE(image.pixel(4, 15), inner);
+        QCOMPARE(qAlpha(image.pixel(0, 15)), opaque ? 255 : 77);
+        QCOMPARE(qAlpha(image.pixel(30, 15)), 0);
+    }
 
-    // The theme switch queues onThemeChanged() on every widget.
-    QVERIFY(BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark")));
-    QTRY_COMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("dark")));
-    QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("dark")));
+    void themeChangeReresolves() {
+        QWidget window;
+        window.resize(200, 100);
+        auto* overlay = new CustomFocusOverlay(kOuter, kInner, false, &window);
+        overlay->setGeometry(10, 10, 60, 30);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("light")));
 
-    // Switching without the refresh leaves the colours until told.
-    QVERIFY(BzThemeManager::instance()->setCurrentTheme(QStringLiteral("highContrast"),
-                                                        BzThemeManager::DataOnly));
-    QCoreApplication::processEvents();
-    QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("dark")));
-    overlay->onThemeChanged();
-    QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("highContrast")));
-    QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("highContrast")));
-}
+        // The theme switch queues onThemeChanged() on every widget.
+        QVERIFY(BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark")));
+        QTRY_COMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("dark")));
+        QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("dark")));
 
-void tst_CustomFocusOverlay::followsThemeTypeOfParent() {
-    QWidget lightParent;
-    QWidget darkParent;
-    darkParent.setProperty("themeType", QStringLiteral("dark"));
+        // Switching without the refresh leaves the colours until told.
+        QVERIFY(BzThemeManager::instance()->setCurrentTheme(QStringLiteral("highContrast"),
+                                                            BzThemeManager::DataOnly));
+        QCoreApplication::processEvents();
+        QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("dark")));
+        overlay->onThemeChanged();
+        QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("highContrast")));
+        QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("highContrast")));
+    }
 
-    auto* overlay = new CustomFocusOverlay(kOuter, kInner, false, &darkParent);
-    overlay->resize(60, 30);
-    QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("dark")));
-    QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("dark")));
+    void followsThemeTypeOfParent() {
+        QWidget lightParent;
+        QWidget darkParent;
+        darkParent.setProperty("themeType", QStringLiteral("dark"));
 
-    overlay->setParent(&lightParent);
-    QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("light")));
-    QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("light")));
-}
+        auto* overlay = new CustomFocusOverlay(kOuter, kInner, false, &darkParent);
+        overlay->resize(60, 30);
+        QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("dark")));
+        QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("dark")));
 
-void tst_CustomFocusOverlay::radiusAndCornerMask_data() {
-    QTest::addColumn<double>("radius");
-    QTest::addColumn<int>("mask");
-    QTest::addColumn<bool>("topLeftPainted");
-    QTest::addColumn<bool>("bottomRightPainted");
+        overlay->setParent(&lightParent);
+        QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("light")));
+        QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("light")));
+    }
 
-    QTest::newRow("square") << 0.0 << 0 << true << true;
-    QTest::newRow("rounded") << 15.0 << 0 << false << false;
-    QTest::newRow("rounded, top-left square") << 15.0 << 1 << true << false;
-    QTest::newRow("rounded, bottom-right square") << 15.0 << 8 << false << true;
-    QTest::newRow("rounded, all square") << 15.0 << 15 << true << true;
-}
+    void radiusAndCornerMask_data() {
+        QTest::addColumn<double>("radius");
+        QTest::addColumn<int>("mask");
+        QTest::addColumn<bool>("topLeftPainted");
+        QTest::addColumn<bool>("bottomRightPainted");
 
-void tst_CustomFocusOverlay::radiusAndCornerMask() {
-    QFETCH(double, radius);
-    QFETCH(int, mask);
-    QFETCH(bool, topLeftPainted);
-    QFETCH(bool, bottomRightPainted);
+        QTest::newRow("square") << 0.0 << 0 << true << true;
+        QTest::newRow("rounded") << 15.0 << 0 << false << false;
+        QTest::newRow("rounded, top-left square") << 15.0 << 1 << true << false;
+        QTest::newRow("rounded, bottom-right square") << 15.0 << 8 << false << true;
+        QTest::newRow("rounded, all square") << 15.0 << 15 << true << true;
+    }
 
-    CustomFocusOverlay overlay(kOuter, kInner, false);
-    overlay.resize(80, 40);
-    overlay.setRadius(radius);
-    overlay.setRectangularCornerMask(static_cast<unsigned char>(mask));
-    QCOMPARE(overlay.getRadius(), radius);
-    const QImage image = render(&overlay);
-    QCOMPARE(qAlpha(image.pixel(1, 1)) > 0, topLeftPainted);
-    QCOMPARE(qAlpha(image.pixel(78, 38)) > 0, bottomRightPainted);
-    QVERIFY(qAlpha(image.pixel(40, 2)) > 0);
-}
+    void radiusAndCornerMask() {
+        QFETCH(double, radius);
+        QFETCH(int, mask);
+        QFETCH(bool, topLeftPainted);
+        QFETCH(bool, bottomRightPainted);
 
-void tst_CustomFocusOverlay::mouseGoesThrough() {
-    QWidget window;
-    window.resize(200, 100);
-    auto* button = new QPushButton(QStringLiteral("Below"), &window);
-    button->setGeometry(20, 20, 100, 40);
-    auto* overlay = new CustomFocusOverlay(kOuter, kInner, false, &window);
-    overlay->setGeometry(button->geometry().marginsAdded(QMargins(5, 5, 5, 5)));
-    overlay->show();
-    overlay->raise();
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(window.childAt(button->geometry().center()), button);
+        CustomFocusOverlay overlay(kOuter, kInner, false);
+        overlay.resize(80, 40);
+        overlay.setRadius(radius);
+        overlay.setRectangularCornerMask(static_cast<unsigned char>(mask));
+        QCOMPARE(overlay.getRadius(), radius);
+        const QImage image = render(&overlay);
+        QCOMPARE(qAlpha(image.pixel(1, 1)) > 0, topLeftPainted);
+        QCOMPARE(qAlpha(image.pixel(78, 38)) > 0, bottomRightPainted);
+        QVERIFY(qAlpha(image.pixel(40, 2)) > 0);
+    }
 
-    QSignalSpy clicked(button, &QPushButton::clicked);
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button->geometry().center());
-    QCOMPARE(clicked.count(), 1);
-    // Never takes focus either.
-    QVERIFY(!overlay->hasFocus());
-    QCOMPARE(overlay->focusPolicy(), Qt::NoFocus);
-}
+    void mouseGoesThrough() {
+        QWidget window;
+        window.resize(200, 100);
+        auto* button = new QPushButton(QStringLiteral("Below"), &window);
+        button->setGeometry(20, 20, 100, 40);
+        auto* overlay = new CustomFocusOverlay(kOuter, kInner, false, &window);
+        overlay->setGeometry(button->geometry().marginsAdded(QMargins(5, 5, 5, 5)));
+        overlay->show();
+        overlay->raise();
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.childAt(button->geometry().center()), button);
+
+        QSignalSpy clicked(button, &QPushButton::clicked);
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button->geometry().center());
+        QCOMPARE(clicked.count(), 1);
+        // Never takes focus either.
+        QVERIFY(!overlay->hasFocus());
+        QCOMPARE(overlay->focusPolicy(), Qt::NoFocus);
+    }
+};
 
 QTEST_MAIN(tst_CustomFocusOverlay)
 #include "tst_customfocusoverlay.moc"

@@ -10,62 +10,58 @@
 class tst_KaColorTokenUtils : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void stdAndQtAgree();
-    void strictlyAscending();
-    void nameForm();
-    void matchesTokenList();
+    // Values from outside the table (a cast int, stale settings) name nothing.
+    void stdAndQtAgree() {
+        QList<int> values{INT_MIN, INT_MAX};
+        for (int value = -2; value <= Karvox::TokenCount + 1; ++value)
+            values << value;
+        for (int value : values) {
+            const auto token = static_cast<Karvox::Token>(value);
+            const std::string stdName = KaColorTokenUtils::tokenToStdString(token);
+            const QString name = KaColorTokenUtils::tokenToString(token);
+            QCOMPARE(name, QString::fromStdString(stdName));
+            const bool inRange = value >= 0 && value < Karvox::TokenCount;
+            QVERIFY2(stdName.empty() != inRange, QByteArray::number(value).constData());
+        }
+    }
+
+    void strictlyAscending() {
+        for (int value = 1; value < Karvox::TokenCount; ++value) {
+            const std::string previous =
+                KaColorTokenUtils::tokenToStdString(static_cast<Karvox::Token>(value - 1));
+            const std::string current =
+                KaColorTokenUtils::tokenToStdString(static_cast<Karvox::Token>(value));
+            // std::string compares as unsigned bytes: '-' < 'A'..'Z' < 'a'..'z'.
+            QVERIFY2(previous < current, (previous + " >= " + current).c_str());
+        }
+    }
+
+    // A component word, then one or more "-" segments (camel case and digits allowed).
+    void nameForm() {
+        const QRegularExpression form(QStringLiteral("^[a-z][A-Za-z]*(-[A-Za-z0-9]+)+$"));
+        for (int value = 0; value < Karvox::TokenCount; ++value) {
+            const QString name = KaColorTokenUtils::tokenToString(static_cast<Karvox::Token>(value));
+            QVERIFY2(form.match(name).hasMatch(), qPrintable(name));
+        }
+    }
+
+    // The generated table must follow the list it is generated from.
+    void matchesTokenList() {
+        QFile list(QStringLiteral(KARVEX_TOKEN_LIST));
+        QVERIFY2(list.open(QIODevice::ReadOnly | QIODevice::Text), qPrintable(list.fileName()));
+        int value = 0;
+        while (!list.atEnd()) {
+            const QByteArray line = list.readLine().trimmed();
+            if (line.isEmpty() || line.startsWith('#'))
+                continue;
+            QCOMPARE(QByteArray::fromStdString(
+                         KaColorTokenUtils::tokenToStdString(static_cast<Karvox::Token>(value))),
+                     line);
+            ++value;
+        }
+        QCOMPARE(value, Karvox::TokenCount);
+    }
 };
-
-// Values from outside the table (a cast int, stale settings) name nothing.
-void tst_KaColorTokenUtils::stdAndQtAgree() {
-    QList<int> values{INT_MIN, INT_MAX};
-    for (int value = -2; value <= Karvox::TokenCount + 1; ++value)
-        values << value;
-    for (int value : values) {
-        const auto token = static_cast<Karvox::Token>(value);
-        const std::string stdName = KaColorTokenUtils::tokenToStdString(token);
-        const QString name = KaColorTokenUtils::tokenToString(token);
-        QCOMPARE(name, QString::fromStdString(stdName));
-        const bool inRange = value >= 0 && value < Karvox::TokenCount;
-        QVERIFY2(stdName.empty() != inRange, QByteArray::number(value).constData());
-    }
-}
-
-void tst_KaColorTokenUtils::strictlyAscending() {
-    for (int value = 1; value < Karvox::TokenCount; ++value) {
-        const std::string previous =
-            KaColorTokenUtils::tokenToStdString(static_cast<Karvox::Token>(value - 1));
-        const std::string current = KaColorTokenUtils::tokenToStdString(static_cast<Karvox::Token>(value));
-        // std::string compares as unsigned bytes: '-' < 'A'..'Z' < 'a'..'z'.
-        QVERIFY2(previous < current, (previous + " >= " + current).c_str());
-    }
-}
-
-// A component word, then one or more "-" segments (camel case and digits allowed).
-void tst_KaColorTokenUtils::nameForm() {
-    const QRegularExpression form(QStringLiteral("^[a-z][A-Za-z]*(-[A-Za-z0-9]+)+$"));
-    for (int value = 0; value < Karvox::TokenCount; ++value) {
-        const QString name = KaColorTokenUtils::tokenToString(static_cast<Karvox::Token>(value));
-        QVERIFY2(form.match(name).hasMatch(), qPrintable(name));
-    }
-}
-
-// The generated table must follow the list it is generated from.
-void tst_KaColorTokenUtils::matchesTokenList() {
-    QFile list(QStringLiteral(KARVEX_TOKEN_LIST));
-    QVERIFY2(list.open(QIODevice::ReadOnly | QIODevice::Text), qPrintable(list.fileName()));
-    int value = 0;
-    while (!list.atEnd()) {
-        const QByteArray line = list.readLine().trimmed();
-        if (line.isEmpty() || line.startsWith('#'))
-            continue;
-        QCOMPARE(
-            QByteArray::fromStdString(KaColorTokenUtils::tokenToStdString(static_cast<Karvox::Token>(value))),
-            line);
-        ++value;
-    }
-    QCOMPARE(value, Karvox::TokenCount);
-}
 
 QTEST_GUILESS_MAIN(tst_KaColorTokenUtils)
 #include "tst_kacolortokenutils.moc"

@@ -150,589 +150,560 @@ bool painted(const QImage& image, int x, int y) {
 class tst_KaFocusStyle : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() {
+        qApp->setProperty("isKeyboardFocus", QVariant());
+        m_window = std::make_unique<QWidget>();
+    }
 
-    void keyboardFlags_data();
-    void keyboardFlags();
-    void excluded_data();
-    void excluded();
-    void geometry_data();
-    void geometry();
-    void customRect();
-    void otherPrimitivesPassThrough();
+    void cleanup() {
+        m_window.reset();
+        qApp->setProperty("isKeyboardFocus", QVariant());
+        // Back to a plain style; this deletes any focus style a test installed.
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        drainQueued();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 
-    void haloAlpha_data();
-    void haloAlpha();
-    void cornerMask_data();
-    void cornerMask();
+    void keyboardFlags_data() {
+        QTest::addColumn<bool>("keyboardState");
+        QTest::addColumn<bool>("underlineHint");
+        QTest::addColumn<bool>("always");
+        QTest::addColumn<bool>("appKeyboard");
+        QTest::addColumn<bool>("ringed");
 
-    void focusedWidgetDeletedBeforeDeferredStep();
-    void styleDeletedWithPendingSteps();
-    void overlayParentDeleted();
-    void focusMoveHidesRing();
+        QTest::newRow("mouse focus") << false << false << false << false << false;
+        QTest::newRow("keyboard focus change") << true << false << false << false << true;
+        QTest::newRow("base style underlines shortcuts") << false << true << false << false << true;
+        QTest::newRow("always show when focused") << false << false << true << false << true;
+        QTest::newRow("application declares keyboard") << false << false << false << true << true;
+        QTest::newRow("all") << true << true << true << true << true;
+    }
 
-    void keyboardAndMouseFocus_data();
-    void keyboardAndMouseFocus();
-    void itemScrolledOutHidesRing_data();
-    void itemScrolledOutHidesRing();
-    void collapsedTreeItemHidesRing();
-    void widgetScrolledOutOfScrollArea();
+    void keyboardFlags() {
+        QFETCH(bool, keyboardState);
+        QFETCH(bool, underlineHint);
+        QFETCH(bool, always);
+        QFETCH(bool, appKeyboard);
+        QFETCH(bool, ringed);
+
+        KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(underlineHint));
+        auto* target = new Target(m_window.get(), QRect(40, 40, 80, 30));
+        if (always)
+            target->setProperty("alwaysShowFocusRectWhenFocused", true);
+        qApp->setProperty("isKeyboardFocus", appKeyboard);
+        showWindow();
+        target->setFocus(Qt::OtherFocusReason);
+        QTRY_VERIFY(overlayIn(m_window.get()));
+        CustomFocusOverlay* overlay = overlayIn(m_window.get());
+        QVERIFY(!overlay->isVisible());
+
+        QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
+        requestRing(style, target, keyboardState ? QStyle::State_KeyboardFocusChange : QStyle::State_None);
+        // The update is deferred, never emitted from inside the paint.
+        QCOMPARE(spy.count(), 0);
+        drainQueued();
+        QCOMPARE(spy.count(), ringed ? 1 : 0);
+        QCOMPARE(overlay->isVisible(), ringed);
+    }
+
+    void excluded_data() {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("objectName");
+        QTest::addColumn<bool>("ringed");
+
+        QTest::newRow("ordinary") << 0 << QStringLiteral("okButton") << true;
+        QTest::newRow("excluded name") << 0 << QStringLiteral("MoreInfoButtonPopupText") << false;
+        // Exact names only.
+        QTest::newRow("name differs in case") << 0 << QStringLiteral("moreInfoButtonPopupText") << true;
+        QTest::newRow("VoicemailListWidget") << 1 << QString() << false;
+        QTest::newRow("QCalendarView") << 4 << QString() << false;
+    }
+
+    void excluded() {
+        QFETCH(int, kind);
+        QFETCH(QString, objectName);
+        QFETCH(bool, ringed);
+
+        KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
+        QWidget* target = nullptr;
+        switch (kind) {
+        case 0:
+            target = new Target(m_window.get());
+            break;
+        case 1:
+            target = new VoicemailListWidget(m_window.get());
+            break;
+        case 4: {
+            auto* calendar = new QCalendarWidget(m_window.get());
+            calendar->setGeometry(10, 10, 300, 250);
+            target = calendar->findChild<QTableView*>();
+            QVERIFY(target);
+            QCOMPARE(target->metaObject()->className(), "QCalendarView");
+            break;
+        }
+        }
+        if (kind != 4)
+            target->setGeometry(40, 40, 80, 30);
+        target->setObjectName(objectName);
+        // Every flag asks for a ring.
+        target->setProperty("alwaysShowFocusRectWhenFocused", true);
+        qApp->setProperty("isKeyboardFocus", true);
+        showWindow();
+        target->setFocus(Qt::TabFocusReason);
+        drainQueued();
+
+        QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
+        requestRing(style, target);
+        drainQueued();
+        QCOMPARE(spy.count(), ringed ? 1 : 0);
+        CustomFocusOverlay* overlay = overlayIn(m_window.get());
+        QCOMPARE(overlay && overlay->isVisible(), ringed);
+    }
+
+    void geometry_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QVariant>("margin");
+        QTest::addColumn<QVariant>("radius");
+        QTest::addColumn<QVariant>("mask");
+        QTest::addColumn<int>("expectedMargin");
+        QTest::addColumn<double>("expectedRadius");
+        QTest::addColumn<int>("expectedMask");
+
+        const QVariant none;
+        QTest::newRow("defaults") << QSize(80, 30) << none << none << none << 5 << 20.0 << 0;
+        QTest::newRow("margin 0") << QSize(80, 30) << QVariant(0) << none << none << 0 << 15.0 << 0;
+        QTest::newRow("margin 0, odd size") << QSize(81, 31) << QVariant(0) << none << none << 0 << 15.5 << 0;
+        QTest::newRow("margin 8") << QSize(80, 30) << QVariant(8) << none << none << 8 << 23.0 << 0;
+        QTest::newRow("tall widget") << QSize(24, 60) << none << none << none << 5 << 17.0 << 0;
+        QTest::newRow("border radius 4") << QSize(80, 30) << none << QVariant(4.0) << none << 5 << 9.0 << 0;
+        QTest::newRow("border radius 0")
+            << QSize(80, 30) << QVariant(0) << QVariant(0.0) << none << 0 << 0.0 << 0;
+        QTest::newRow("negative border radius")
+            << QSize(80, 30) << none << QVariant(-6.0) << none << 5 << 5.0 << 0;
+        QTest::newRow("corner mask") << QSize(80, 30) << none << none << QVariant(5u) << 5 << 20.0 << 5;
+        QTest::newRow("all corners square")
+            << QSize(80, 30) << none << none << QVariant(15u) << 5 << 20.0 << 15;
+    }
+
+    void geometry() {
+        QFETCH(QSize, size);
+        QFETCH(QVariant, margin);
+        QFETCH(QVariant, radius);
+        QFETCH(QVariant, mask);
+        QFETCH(int, expectedMargin);
+        QFETCH(double, expectedRadius);
+        QFETCH(int, expectedMask);
+
+        KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
+        // Nested, so that the position goes through more than one parent.
+        auto* panel = new QWidget(m_window.get());
+        panel->setGeometry(30, 20, 300, 200);
+        auto* target = new Target(panel, QRect(QPoint(25, 35), size));
+        target->setProperty("focusMargin", margin);
+        target->setProperty("focusBorderRadius", radius);
+        target->setProperty("rectangularCornerMask", mask);
+        showWindow();
+        ringOn(style, target);
+
+        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        CustomFocusOverlay* overlay = overlayIn(m_window.get());
+        QCOMPARE(overlay->parentWidget(), m_window.get());
+        QCOMPARE(overlay->geometry(),
+                 grown(QRect(target->mapTo(m_window.get(), QPoint()), size), expectedMargin));
+        QCOMPARE(overlay->getRadius(), expectedRadius);
+        QCOMPARE(int(overlay->rectangularCornerMask()), expectedMask);
+    }
+
+    void customRect() {
+        KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
+        auto* target = new Target(m_window.get(), QRect(50, 60, 200, 100));
+        showWindow();
+        target->setFocus(Qt::TabFocusReason);
+        drainQueued();
+
+        // Without "hasCustomRect" the option's rectangle is ignored.
+        const QRect part(10, 20, 60, 24);
+        requestRing(style, target, QStyle::State_KeyboardFocusChange, part);
+        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        CustomFocusOverlay* overlay = overlayIn(m_window.get());
+        QCOMPARE(overlay->geometry(), grown(target->geometry(), 5));
+
+        target->setProperty("hasCustomRect", true);
+        requestRing(style, target, QStyle::State_KeyboardFocusChange, part);
+        QTRY_COMPARE(overlay->geometry(), grown(part.translated(target->pos()), 5));
+        QCOMPARE(overlay->getRadius(), 12.0 + 5);
+    }
+
+    void otherPrimitivesPassThrough() {
+        KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
+        auto* target = new Target(m_window.get(), QRect(10, 10, 60, 30));
+        showWindow();
+        target->setFocus(Qt::TabFocusReason);
+        drainQueued();
+
+        QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
+        QStyleOptionFrame frame;
+        frame.initFrom(target);
+        frame.state |= QStyle::State_KeyboardFocusChange;
+        QImage image(60, 30, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        style.drawPrimitive(QStyle::PE_Frame, &frame, &painter, target);
+        // A focus rectangle without a widget cannot be placed: the base draws it.
+        QStyleOptionFocusRect focus;
+        focus.initFrom(target);
+        focus.state |= QStyle::State_KeyboardFocusChange;
+        style.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, nullptr);
+        painter.end();
+        drainQueued();
+        QCOMPARE(spy.count(), 0);
+        // The base style painted the frame itself.
+        QVERIFY(painted(image, 0, 15));
+    }
+
+    void haloAlpha_data() {
+        QTest::addColumn<bool>("opaque");
+        QTest::addColumn<int>("haloAlpha");
+        QTest::newRow("translucent") << false << 77;
+        QTest::newRow("opaque") << true << 255;
+    }
+
+    void haloAlpha() {
+        QFETCH(bool, opaque);
+        QFETCH(int, haloAlpha);
+
+        const QColor outer(10, 100, 200);
+        const QColor inner(250, 240, 230);
+        QImage image(60, 40, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        KaFocusStyle::drawFocusOutline(&painter, image.rect(), outer, inner, opaque, 0, 0);
+        painter.end();
+
+        // Across the left edge at mid height: halo, solid outer line, inner line.
+        const int y = 20;
+        QCOMPARE(qAlpha(image.pixel(0, y)), haloAlpha);
+        QVERIFY(sameHue(image.pixel(0, y), outer.rgb()));
+        QCOMPARE(image.pixel(1, y), outer.rgba());
+        QCOMPARE(image.pixel(2, y), outer.rgba());
+        QCOMPARE(image.pixel(3, y), inner.rgba());
+        QCOMPARE(image.pixel(4, y), inner.rgba());
+        QCOMPARE(qAlpha(image.pixel(5, y)), 0);
+        // The same on the right edge: the ring is symmetric.
+        QCOMPARE(qAlpha(image.pixel(59, y)), haloAlpha);
+        QCOMPARE(image.pixel(57, y), outer.rgba());
+        QCOMPARE(image.pixel(55, y), inner.rgba());
+        QCOMPARE(qAlpha(image.pixel(54, y)), 0);
+        // The top edge too.
+        QCOMPARE(qAlpha(image.pixel(30, 0)), haloAlpha);
+        QCOMPARE(image.pixel(30, 4), inner.rgba());
+
+        // A translucent outer colour still gets a solid line.
+        image.fill(Qt::transparent);
+        painter.begin(&image);
+        KaFocusStyle::drawFocusOutline(&painter, image.rect(), QColor(10, 100, 200, 40), inner, opaque, 0, 0);
+        painter.end();
+        QCOMPARE(qAlpha(image.pixel(1, y)), 255);
+        QCOMPARE(qAlpha(image.pixel(0, y)), opaque ? 40 : 77);
+    }
+
+    void cornerMask_data() {
+        QTest::addColumn<int>("mask");
+        for (int mask : {0, 1, 2, 4, 8, 6, 9, 15})
+            QTest::addRow("mask %d", mask) << mask;
+    }
+
+    void cornerMask() {
+        QFETCH(int, mask);
+
+        QImage image(80, 40, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        KaFocusStyle::drawFocusOutline(&painter, image.rect(), QColor(0, 90, 200), QColor(255, 255, 255),
+                                       false, 20, static_cast<unsigned char>(mask));
+        painter.end();
+
+        const int w = image.width();
+        const int h = image.height();
+        // One pixel in from each corner: on the ring when the corner is square,
+        // well outside the curve when it is rounded.
+        QCOMPARE(painted(image, 1, 1), bool(mask & 1));
+        QCOMPARE(painted(image, w - 2, 1), bool(mask & 2));
+        QCOMPARE(painted(image, 1, h - 2), bool(mask & 4));
+        QCOMPARE(painted(image, w - 2, h - 2), bool(mask & 8));
+        // The straight parts are there whatever the mask.
+        QVERIFY(painted(image, w / 2, 1));
+        QVERIFY(painted(image, 1, h / 2));
+        QVERIFY(!painted(image, w / 2, h / 2));
+    }
+
+    void focusedWidgetDeletedBeforeDeferredStep() {
+        KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
+        auto* keep = new Target(m_window.get(), QRect(10, 10, 60, 30));
+        showWindow();
+        keep->setFocus(Qt::TabFocusReason);
+        drainQueued();
+        QVERIFY(overlayIn(m_window.get()));
+
+        auto* doomed = new Target(m_window.get(), QRect(100, 10, 60, 30));
+        doomed->show();
+        doomed->setFocus(Qt::TabFocusReason);
+        requestRing(style, doomed);
+        delete doomed;
+        drainQueued();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+        // The old ring went, no new one was made for the deleted widget.
+        QVERIFY(m_window->findChildren<CustomFocusOverlay*>().isEmpty());
+        // And the style still works.
+        ringOn(style, keep);
+        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QCOMPARE(overlayIn(m_window.get())->geometry(), grown(keep->geometry(), 5));
+    }
+
+    void styleDeletedWithPendingSteps() {
+        auto* style = new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false));
+        auto* target = new Target(m_window.get(), QRect(10, 10, 60, 30));
+        auto* other = new Target(m_window.get(), QRect(100, 10, 60, 30));
+        showWindow();
+        ringOn(*style, target);
+        QTRY_VERIFY(visibleOverlay(m_window.get()));
+
+        // A focus change and a ring request still queued when the style goes.
+        other->setFocus(Qt::TabFocusReason);
+        requestRing(*style, other);
+        delete style;
+        drainQueued();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        // The style took its ring with it and made no new one.
+        QVERIFY(m_window->findChildren<CustomFocusOverlay*>().isEmpty());
+    }
+
+    void overlayParentDeleted() {
+        KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
+        auto* list = new QListWidget(m_window.get());
+        list->addItems({QStringLiteral("one"), QStringLiteral("two")});
+        list->setGeometry(10, 10, 150, 100);
+        auto* other = new Target(m_window.get(), QRect(200, 10, 60, 30));
+        showWindow();
+        list->setFocus(Qt::TabFocusReason);
+        drainQueued();
+        QVERIFY(list->findChild<CustomFocusOverlay*>());
+        QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
+        requestRing(style, list);
+        // The view and its ring go before the queued update runs.
+        delete list;
+        drainQueued();
+        QCOMPARE(spy.count(), 0);
+
+        ringOn(style, other);
+        QTRY_VERIFY(visibleOverlay(m_window.get()));
+    }
+
+    void focusMoveHidesRing() {
+        KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
+        auto* first = new Target(m_window.get(), QRect(10, 10, 60, 30));
+        auto* second = new Target(m_window.get(), QRect(100, 10, 60, 30));
+        showWindow();
+        ringOn(style, first);
+        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QPointer<CustomFocusOverlay> old = overlayIn(m_window.get());
+
+        second->setFocus(Qt::TabFocusReason);
+        // Hidden at once, replaced later.
+        QVERIFY(!old->isVisible());
+        // A late request from the widget that lost focus places nothing.
+        requestRing(style, first);
+        drainQueued();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(old.isNull());
+        QCOMPARE(m_window->findChildren<CustomFocusOverlay*>().size(), 1);
+        QVERIFY(!overlayIn(m_window.get())->isVisible());
+
+        requestRing(style, second);
+        QTRY_VERIFY(overlayIn(m_window.get())->isVisible());
+        QCOMPARE(overlayIn(m_window.get())->geometry(), grown(second->geometry(), 5));
+    }
+
+    void keyboardAndMouseFocus_data() {
+        QTest::addColumn<bool>("byTab");
+        QTest::addColumn<bool>("appKeyboard");
+        QTest::addColumn<bool>("ringed");
+        QTest::newRow("tab") << true << false << true;
+        QTest::newRow("mouse") << false << false << false;
+        QTest::newRow("mouse, application says keyboard") << false << true << true;
+    }
+
+    void keyboardAndMouseFocus() {
+        QFETCH(bool, byTab);
+        QFETCH(bool, appKeyboard);
+        QFETCH(bool, ringed);
+
+        // The real path: widgets painted by the application style.
+        auto* style = new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false));
+        QApplication::setStyle(style);
+        qApp->setProperty("isKeyboardFocus", appKeyboard);
+        auto* first = new RingRequester(m_window.get(), QRect(20, 20, 100, 32));
+        auto* second = new RingRequester(m_window.get(), QRect(20, 80, 100, 32));
+        showWindow();
+        first->setFocus(Qt::OtherFocusReason);
+        drainQueued();
+
+        QSignalSpy spy(style, &KaFocusStyle::updateOverlay);
+        if (byTab)
+            QTest::keyClick(m_window.get(), Qt::Key_Tab);
+        else
+            QTest::mouseClick(second, Qt::LeftButton);
+        QCOMPARE(QApplication::focusWidget(), second);
+        if (ringed) {
+            QTRY_VERIFY(visibleOverlay(m_window.get()));
+            QCOMPARE(overlayIn(m_window.get())->geometry(), grown(second->geometry(), 5));
+        } else {
+            // Repaint the button and let every queued step run: still no ring.
+            second->repaint();
+            drainQueued();
+            drainQueued();
+            QCOMPARE(spy.count(), 0);
+            CustomFocusOverlay* overlay = overlayIn(m_window.get());
+            QVERIFY(!overlay || !overlay->isVisible());
+        }
+    }
+
+    void itemScrolledOutHidesRing_data() {
+        QTest::addColumn<bool>("tree");
+        QTest::newRow("list view") << false;
+        QTest::newRow("tree view") << true;
+    }
+
+    void itemScrolledOutHidesRing() {
+        QFETCH(bool, tree);
+
+        QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
+        QStandardItemModel model;
+        for (int i = 0; i < 200; ++i)
+            model.appendRow(new QStandardItem(QStringLiteral("Item %1").arg(i)));
+        QAbstractItemView* view = nullptr;
+        if (tree) {
+            auto* treeView = new QTreeView(m_window.get());
+            treeView->setHeaderHidden(true);
+            treeView->setRootIsDecorated(false);
+            view = treeView;
+        } else {
+            view = new QListView(m_window.get());
+        }
+        view->setModel(&model);
+        view->setItemDelegate(new ViewStyleObjectDelegate(view));
+        view->setGeometry(20, 20, 200, 150);
+        view->setProperty("hasCustomRect", true);
+        view->setProperty("focusMargin", 0);
+        showWindow();
+        view->setCurrentIndex(model.index(2, 0));
+        view->setFocus(Qt::TabFocusReason);
+
+        // Inside the view, around the current item.
+        QTRY_VERIFY(view->findChild<CustomFocusOverlay*>() &&
+                    view->findChild<CustomFocusOverlay*>()->isVisible());
+        CustomFocusOverlay* overlay = view->findChild<CustomFocusOverlay*>();
+        const QRect itemInView = view->visualRect(model.index(2, 0)).translated(view->viewport()->pos());
+        QTRY_COMPARE(overlay->geometry().topLeft(), itemInView.topLeft());
+        QCOMPARE(overlay->height(), itemInView.height());
+
+        view->scrollToBottom();
+        QTRY_VERIFY(!overlay->isVisible());
+        // Scrolling back brings it back, at the item's place.
+        view->scrollToTop();
+        QTRY_VERIFY(overlay->isVisible());
+        QTRY_COMPARE(overlay->geometry().topLeft(), itemInView.topLeft());
+
+        // Scrolled by one row: the ring follows the item.
+        view->verticalScrollBar()->setValue(view->verticalScrollBar()->singleStep());
+        const QRect moved = view->visualRect(model.index(2, 0)).translated(view->viewport()->pos());
+        QVERIFY(moved.top() < itemInView.top());
+        QTRY_COMPARE(overlay->geometry().topLeft(), moved.topLeft());
+        QVERIFY(overlay->isVisible());
+    }
+
+    void collapsedTreeItemHidesRing() {
+        QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
+        QStandardItemModel model;
+        auto* parentItem = new QStandardItem(QStringLiteral("Parent"));
+        for (int i = 0; i < 3; ++i)
+            parentItem->appendRow(new QStandardItem(QStringLiteral("Child %1").arg(i)));
+        model.appendRow(parentItem);
+        auto* tree = new QTreeView(m_window.get());
+        tree->setModel(&model);
+        tree->setItemDelegate(new ViewStyleObjectDelegate(tree));
+        tree->setHeaderHidden(true);
+        tree->setGeometry(20, 20, 200, 150);
+        tree->setProperty("hasCustomRect", true);
+        tree->expandAll();
+        showWindow();
+        const QModelIndex child = model.index(1, 0, model.index(0, 0));
+        tree->setCurrentIndex(child);
+        tree->setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(tree->findChild<CustomFocusOverlay*>() &&
+                    tree->findChild<CustomFocusOverlay*>()->isVisible());
+        CustomFocusOverlay* overlay = tree->findChild<CustomFocusOverlay*>();
+
+        // Collapsing hides the row without moving the current index.
+        tree->collapse(model.index(0, 0));
+        QCOMPARE(tree->currentIndex(), child);
+        QTRY_VERIFY(!overlay->isVisible());
+        tree->expand(model.index(0, 0));
+        QTRY_VERIFY(overlay->isVisible());
+    }
+
+    void widgetScrolledOutOfScrollArea() {
+        QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
+        auto* area = new QScrollArea(m_window.get());
+        area->setGeometry(20, 20, 240, 200);
+        auto* content = new QWidget;
+        auto* layout = new QVBoxLayout(content);
+        QList<RingRequester*> buttons;
+        for (int i = 0; i < 30; ++i) {
+            buttons << new RingRequester;
+            buttons.constLast()->setFixedHeight(30);
+            layout->addWidget(buttons.constLast());
+        }
+        area->setWidgetResizable(true);
+        area->setWidget(content);
+        showWindow();
+        RingRequester* button = buttons.at(1);
+        // setFocus() is no key press: the window sets no keyboard flag.
+        qApp->setProperty("isKeyboardFocus", true);
+        button->setFocus(Qt::TabFocusReason);
+
+        // The ring lives on the viewport, clipped like the content.
+        QTRY_VERIFY(visibleOverlay(area->viewport()));
+        CustomFocusOverlay* overlay = overlayIn(area->viewport());
+        QCOMPARE(overlay->parentWidget(), area->viewport());
+        const auto inViewport = [&] {
+            return QRect(button->mapTo(area->viewport(), QPoint()), button->size());
+        };
+        QCOMPARE(overlay->geometry(), grown(inViewport(), 5));
+
+        area->ensureWidgetVisible(buttons.constLast());
+        QTRY_VERIFY(!overlay->isVisible());
+        area->ensureWidgetVisible(button);
+        QTRY_VERIFY(overlay->isVisible());
+        QTRY_COMPARE(overlay->geometry(), grown(inViewport(), 5));
+
+        // Partly scrolled: the ring follows the widget.
+        area->verticalScrollBar()->setValue(area->verticalScrollBar()->value() + 20);
+        QTRY_COMPARE(overlay->geometry(), grown(inViewport(), 5));
+        QVERIFY(overlay->isVisible());
+    }
 
 private:
     std::unique_ptr<QWidget> m_window;
-    void showWindow(const QSize& size = QSize(400, 300));
+
+    void showWindow(const QSize& size = QSize(400, 300)) {
+        m_window->resize(size);
+        m_window->show();
+        QApplication::setActiveWindow(m_window.get());
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
 };
-
-void tst_KaFocusStyle::init() {
-    qApp->setProperty("isKeyboardFocus", QVariant());
-    m_window = std::make_unique<QWidget>();
-}
-
-void tst_KaFocusStyle::cleanup() {
-    m_window.reset();
-    qApp->setProperty("isKeyboardFocus", QVariant());
-    // Back to a plain style; this deletes any focus style a test installed.
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    drainQueued();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-void tst_KaFocusStyle::showWindow(const QSize& size) {
-    m_window->resize(size);
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void tst_KaFocusStyle::keyboardFlags_data() {
-    QTest::addColumn<bool>("keyboardState");
-    QTest::addColumn<bool>("underlineHint");
-    QTest::addColumn<bool>("always");
-    QTest::addColumn<bool>("appKeyboard");
-    QTest::addColumn<bool>("ringed");
-
-    QTest::newRow("mouse focus") << false << false << false << false << false;
-    QTest::newRow("keyboard focus change") << true << false << false << false << true;
-    QTest::newRow("base style underlines shortcuts") << false << true << false << false << true;
-    QTest::newRow("always show when focused") << false << false << true << false << true;
-    QTest::newRow("application declares keyboard") << false << false << false << true << true;
-    QTest::newRow("all") << true << true << true << true << true;
-}
-
-void tst_KaFocusStyle::keyboardFlags() {
-    QFETCH(bool, keyboardState);
-    QFETCH(bool, underlineHint);
-    QFETCH(bool, always);
-    QFETCH(bool, appKeyboard);
-    QFETCH(bool, ringed);
-
-    KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(underlineHint));
-    auto* target = new Target(m_window.get(), QRect(40, 40, 80, 30));
-    if (always)
-        target->setProperty("alwaysShowFocusRectWhenFocused", true);
-    qApp->setProperty("isKeyboardFocus", appKeyboard);
-    showWindow();
-    target->setFocus(Qt::OtherFocusReason);
-    QTRY_VERIFY(overlayIn(m_window.get()));
-    CustomFocusOverlay* overlay = overlayIn(m_window.get());
-    QVERIFY(!overlay->isVisible());
-
-    QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
-    requestRing(style, target, keyboardState ? QStyle::State_KeyboardFocusChange : QStyle::State_None);
-    // The update is deferred, never emitted from inside the paint.
-    QCOMPARE(spy.count(), 0);
-    drainQueued();
-    QCOMPARE(spy.count(), ringed ? 1 : 0);
-    QCOMPARE(overlay->isVisible(), ringed);
-}
-
-void tst_KaFocusStyle::excluded_data() {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("objectName");
-    QTest::addColumn<bool>("ringed");
-
-    QTest::newRow("ordinary") << 0 << QStringLiteral("okButton") << true;
-    QTest::newRow("excluded name") << 0 << QStringLiteral("MoreInfoButtonPopupText") << false;
-    // Exact names only.
-    QTest::newRow("name differs in case") << 0 << QStringLiteral("moreInfoButtonPopupText") << true;
-    QTest::newRow("VoicemailListWidget") << 1 << QString() << false;
-    QTest::newRow("QCalendarView") << 4 << QString() << false;
-}
-
-void tst_KaFocusStyle::excluded() {
-    QFETCH(int, kind);
-    QFETCH(QString, objectName);
-    QFETCH(bool, ringed);
-
-    KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    QWidget* target = nullptr;
-    switch (kind) {
-    case 0:
-        target = new Target(m_window.get());
-        break;
-    case 1:
-        target = new VoicemailListWidget(m_window.get());
-        break;
-    case 4: {
-        auto* calendar = new QCalendarWidget(m_window.get());
-        calendar->setGeometry(10, 10, 300, 250);
-        target = calendar->findChild<QTableView*>();
-        QVERIFY(target);
-        QCOMPARE(target->metaObject()->className(), "QCalendarView");
-        break;
-    }
-    }
-    if (kind != 4)
-        target->setGeometry(40, 40, 80, 30);
-    target->setObjectName(objectName);
-    // Every flag asks for a ring.
-    target->setProperty("alwaysShowFocusRectWhenFocused", true);
-    qApp->setProperty("isKeyboardFocus", true);
-    showWindow();
-    target->setFocus(Qt::TabFocusReason);
-    drainQueued();
-
-    QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
-    requestRing(style, target);
-    drainQueued();
-    QCOMPARE(spy.count(), ringed ? 1 : 0);
-    CustomFocusOverlay* overlay = overlayIn(m_window.get());
-    QCOMPARE(overlay && overlay->isVisible(), ringed);
-}
-
-void tst_KaFocusStyle::geometry_data() {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QVariant>("margin");
-    QTest::addColumn<QVariant>("radius");
-    QTest::addColumn<QVariant>("mask");
-    QTest::addColumn<int>("expectedMargin");
-    QTest::addColumn<double>("expectedRadius");
-    QTest::addColumn<int>("expectedMask");
-
-    const QVariant none;
-    QTest::newRow("defaults") << QSize(80, 30) << none << none << none << 5 << 20.0 << 0;
-    QTest::newRow("margin 0") << QSize(80, 30) << QVariant(0) << none << none << 0 << 15.0 << 0;
-    QTest::newRow("margin 0, odd size") << QSize(81, 31) << QVariant(0) << none << none << 0 << 15.5 << 0;
-    QTest::newRow("margin 8") << QSize(80, 30) << QVariant(8) << none << none << 8 << 23.0 << 0;
-    QTest::newRow("tall widget") << QSize(24, 60) << none << none << none << 5 << 17.0 << 0;
-    QTest::newRow("border radius 4") << QSize(80, 30) << none << QVariant(4.0) << none << 5 << 9.0 << 0;
-    QTest::newRow("border radius 0") << QSize(80, 30) << QVariant(0) << QVariant(0.0) << none << 0 << 0.0
-                                     << 0;
-    QTest::newRow("negative border radius")
-        << QSize(80, 30) << none << QVariant(-6.0) << none << 5 << 5.0 << 0;
-    QTest::newRow("corner mask") << QSize(80, 30) << none << none << QVariant(5u) << 5 << 20.0 << 5;
-    QTest::newRow("all corners square") << QSize(80, 30) << none << none << QVariant(15u) << 5 << 20.0 << 15;
-}
-
-void tst_KaFocusStyle::geometry() {
-    QFETCH(QSize, size);
-    QFETCH(QVariant, margin);
-    QFETCH(QVariant, radius);
-    QFETCH(QVariant, mask);
-    QFETCH(int, expectedMargin);
-    QFETCH(double, expectedRadius);
-    QFETCH(int, expectedMask);
-
-    KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    // Nested, so that the position goes through more than one parent.
-    auto* panel = new QWidget(m_window.get());
-    panel->setGeometry(30, 20, 300, 200);
-    auto* target = new Target(panel, QRect(QPoint(25, 35), size));
-    target->setProperty("focusMargin", margin);
-    target->setProperty("focusBorderRadius", radius);
-    target->setProperty("rectangularCornerMask", mask);
-    showWindow();
-    ringOn(style, target);
-
-    QTRY_VERIFY(visibleOverlay(m_window.get()));
-    CustomFocusOverlay* overlay = overlayIn(m_window.get());
-    QCOMPARE(overlay->parentWidget(), m_window.get());
-    QCOMPARE(overlay->geometry(),
-             grown(QRect(target->mapTo(m_window.get(), QPoint()), size), expectedMargin));
-    QCOMPARE(overlay->getRadius(), expectedRadius);
-    QCOMPARE(int(overlay->rectangularCornerMask()), expectedMask);
-}
-
-void tst_KaFocusStyle::customRect() {
-    KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* target = new Target(m_window.get(), QRect(50, 60, 200, 100));
-    showWindow();
-    target->setFocus(Qt::TabFocusReason);
-    drainQueued();
-
-    // Without "hasCustomRect" the option's rectangle is ignored.
-    const QRect part(10, 20, 60, 24);
-    requestRing(style, target, QStyle::State_KeyboardFocusChange, part);
-    QTRY_VERIFY(visibleOverlay(m_window.get()));
-    CustomFocusOverlay* overlay = overlayIn(m_window.get());
-    QCOMPARE(overlay->geometry(), grown(target->geometry(), 5));
-
-    target->setProperty("hasCustomRect", true);
-    requestRing(style, target, QStyle::State_KeyboardFocusChange, part);
-    QTRY_COMPARE(overlay->geometry(), grown(part.translated(target->pos()), 5));
-    QCOMPARE(overlay->getRadius(), 12.0 + 5);
-}
-
-void tst_KaFocusStyle::otherPrimitivesPassThrough() {
-    KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* target = new Target(m_window.get(), QRect(10, 10, 60, 30));
-    showWindow();
-    target->setFocus(Qt::TabFocusReason);
-    drainQueued();
-
-    QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
-    QStyleOptionFrame frame;
-    frame.initFrom(target);
-    frame.state |= QStyle::State_KeyboardFocusChange;
-    QImage image(60, 30, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    style.drawPrimitive(QStyle::PE_Frame, &frame, &painter, target);
-    // A focus rectangle without a widget cannot be placed: the base draws it.
-    QStyleOptionFocusRect focus;
-    focus.initFrom(target);
-    focus.state |= QStyle::State_KeyboardFocusChange;
-    style.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, nullptr);
-    painter.end();
-    drainQueued();
-    QCOMPARE(spy.count(), 0);
-    // The base style painted the frame itself.
-    QVERIFY(painted(image, 0, 15));
-}
-
-void tst_KaFocusStyle::haloAlpha_data() {
-    QTest::addColumn<bool>("opaque");
-    QTest::addColumn<int>("haloAlpha");
-    QTest::newRow("translucent") << false << 77;
-    QTest::newRow("opaque") << true << 255;
-}
-
-void tst_KaFocusStyle::haloAlpha() {
-    QFETCH(bool, opaque);
-    QFETCH(int, haloAlpha);
-
-    const QColor outer(10, 100, 200);
-    const QColor inner(250, 240, 230);
-    QImage image(60, 40, QImage::Format_ARGB32);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    KaFocusStyle::drawFocusOutline(&painter, image.rect(), outer, inner, opaque, 0, 0);
-    painter.end();
-
-    // Across the left edge at mid height: halo, solid outer line, inner line.
-    const int y = 20;
-    QCOMPARE(qAlpha(image.pixel(0, y)), haloAlpha);
-    QVERIFY(sameHue(image.pixel(0, y), outer.rgb()));
-    QCOMPARE(image.pixel(1, y), outer.rgba());
-    QCOMPARE(image.pixel(2, y), outer.rgba());
-    QCOMPARE(image.pixel(3, y), inner.rgba());
-    QCOMPARE(image.pixel(4, y), inner.rgba());
-    QCOMPARE(qAlpha(image.pixel(5, y)), 0);
-    // The same on the right edge: the ring is symmetric.
-    QCOMPARE(qAlpha(image.pixel(59, y)), haloAlpha);
-    QCOMPARE(image.pixel(57, y), outer.rgba());
-    QCOMPARE(image.pixel(55, y), inner.rgba());
-    QCOMPARE(qAlpha(image.pixel(54, y)), 0);
-    // The top edge too.
-    QCOMPARE(qAlpha(image.pixel(30, 0)), haloAlpha);
-    QCOMPARE(image.pixel(30, 4), inner.rgba());
-
-    // A translucent outer colour still gets a solid line.
-    image.fill(Qt::transparent);
-    painter.begin(&image);
-    KaFocusStyle::drawFocusOutline(&painter, image.rect(), QColor(10, 100, 200, 40), inner, opaque, 0, 0);
-    painter.end();
-    QCOMPARE(qAlpha(image.pixel(1, y)), 255);
-    QCOMPARE(qAlpha(image.pixel(0, y)), opaque ? 40 : 77);
-}
-
-void tst_KaFocusStyle::cornerMask_data() {
-    QTest::addColumn<int>("mask");
-    for (int mask : {0, 1, 2, 4, 8, 6, 9, 15})
-        QTest::addRow("mask %d", mask) << mask;
-}
-
-void tst_KaFocusStyle::cornerMask() {
-    QFETCH(int, mask);
-
-    QImage image(80, 40, QImage::Format_ARGB32);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    KaFocusStyle::drawFocusOutline(&painter, image.rect(), QColor(0, 90, 200), QColor(255, 255, 255), false,
-                                   20, static_cast<unsigned char>(mask));
-    painter.end();
-
-    const int w = image.width();
-    const int h = image.height();
-    // One pixel in from each corner: on the ring when the corner is square,
-    // well outside the curve when it is rounded.
-    QCOMPARE(painted(image, 1, 1), bool(mask & 1));
-    QCOMPARE(painted(image, w - 2, 1), bool(mask & 2));
-    QCOMPARE(painted(image, 1, h - 2), bool(mask & 4));
-    QCOMPARE(painted(image, w - 2, h - 2), bool(mask & 8));
-    // The straight parts are there whatever the mask.
-    QVERIFY(painted(image, w / 2, 1));
-    QVERIFY(painted(image, 1, h / 2));
-    QVERIFY(!painted(image, w / 2, h / 2));
-}
-
-void tst_KaFocusStyle::focusedWidgetDeletedBeforeDeferredStep() {
-    KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* keep = new Target(m_window.get(), QRect(10, 10, 60, 30));
-    showWindow();
-    keep->setFocus(Qt::TabFocusReason);
-    drainQueued();
-    QVERIFY(overlayIn(m_window.get()));
-
-    auto* doomed = new Target(m_window.get(), QRect(100, 10, 60, 30));
-    doomed->show();
-    doomed->setFocus(Qt::TabFocusReason);
-    requestRing(style, doomed);
-    delete doomed;
-    drainQueued();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-
-    // The old ring went, no new one was made for the deleted widget.
-    QVERIFY(m_window->findChildren<CustomFocusOverlay*>().isEmpty());
-    // And the style still works.
-    ringOn(style, keep);
-    QTRY_VERIFY(visibleOverlay(m_window.get()));
-    QCOMPARE(overlayIn(m_window.get())->geometry(), grown(keep->geometry(), 5));
-}
-
-void tst_KaFocusStyle::styleDeletedWithPendingSteps() {
-    auto* style = new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* target = new Target(m_window.get(), QRect(10, 10, 60, 30));
-    auto* other = new Target(m_window.get(), QRect(100, 10, 60, 30));
-    showWindow();
-    ringOn(*style, target);
-    QTRY_VERIFY(visibleOverlay(m_window.get()));
-
-    // A focus change and a ring request still queued when the style goes.
-    other->setFocus(Qt::TabFocusReason);
-    requestRing(*style, other);
-    delete style;
-    drainQueued();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    // The style took its ring with it and made no new one.
-    QVERIFY(m_window->findChildren<CustomFocusOverlay*>().isEmpty());
-}
-
-void tst_KaFocusStyle::overlayParentDeleted() {
-    KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* list = new QListWidget(m_window.get());
-    list->addItems({QStringLiteral("one"), QStringLiteral("two")});
-    list->setGeometry(10, 10, 150, 100);
-    auto* other = new Target(m_window.get(), QRect(200, 10, 60, 30));
-    showWindow();
-    list->setFocus(Qt::TabFocusReason);
-    drainQueued();
-    QVERIFY(list->findChild<CustomFocusOverlay*>());
-    QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
-    requestRing(style, list);
-    // The view and its ring go before the queued update runs.
-    delete list;
-    drainQueued();
-    QCOMPARE(spy.count(), 0);
-
-    ringOn(style, other);
-    QTRY_VERIFY(visibleOverlay(m_window.get()));
-}
-
-void tst_KaFocusStyle::focusMoveHidesRing() {
-    KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
-    auto* first = new Target(m_window.get(), QRect(10, 10, 60, 30));
-    auto* second = new Target(m_window.get(), QRect(100, 10, 60, 30));
-    showWindow();
-    ringOn(style, first);
-    QTRY_VERIFY(visibleOverlay(m_window.get()));
-    QPointer<CustomFocusOverlay> old = overlayIn(m_window.get());
-
-    second->setFocus(Qt::TabFocusReason);
-    // Hidden at once, replaced later.
-    QVERIFY(!old->isVisible());
-    // A late request from the widget that lost focus places nothing.
-    requestRing(style, first);
-    drainQueued();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(old.isNull());
-    QCOMPARE(m_window->findChildren<CustomFocusOverlay*>().size(), 1);
-    QVERIFY(!overlayIn(m_window.get())->isVisible());
-
-    requestRing(style, second);
-    QTRY_VERIFY(overlayIn(m_window.get())->isVisible());
-    QCOMPARE(overlayIn(m_window.get())->geometry(), grown(second->geometry(), 5));
-}
-
-void tst_KaFocusStyle::keyboardAndMouseFocus_data() {
-    QTest::addColumn<bool>("byTab");
-    QTest::addColumn<bool>("appKeyboard");
-    QTest::addColumn<bool>("ringed");
-    QTest::newRow("tab") << true << false << true;
-    QTest::newRow("mouse") << false << false << false;
-    QTest::newRow("mouse, application says keyboard") << false << true << true;
-}
-
-void tst_KaFocusStyle::keyboardAndMouseFocus() {
-    QFETCH(bool, byTab);
-    QFETCH(bool, appKeyboard);
-    QFETCH(bool, ringed);
-
-    // The real path: widgets painted by the application style.
-    auto* style = new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false));
-    QApplication::setStyle(style);
-    qApp->setProperty("isKeyboardFocus", appKeyboard);
-    auto* first = new RingRequester(m_window.get(), QRect(20, 20, 100, 32));
-    auto* second = new RingRequester(m_window.get(), QRect(20, 80, 100, 32));
-    showWindow();
-    first->setFocus(Qt::OtherFocusReason);
-    drainQueued();
-
-    QSignalSpy spy(style, &KaFocusStyle::updateOverlay);
-    if (byTab)
-        QTest::keyClick(m_window.get(), Qt::Key_Tab);
-    else
-        QTest::mouseClick(second, Qt::LeftButton);
-    QCOMPARE(QApplication::focusWidget(), second);
-    if (ringed) {
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
-        QCOMPARE(overlayIn(m_window.get())->geometry(), grown(second->geometry(), 5));
-    } else {
-        // Repaint the button and let every queued step run: still no ring.
-        second->repaint();
-        drainQueued();
-        drainQueued();
-        QCOMPARE(spy.count(), 0);
-        CustomFocusOverlay* overlay = overlayIn(m_window.get());
-        QVERIFY(!overlay || !overlay->isVisible());
-    }
-}
-
-void tst_KaFocusStyle::itemScrolledOutHidesRing_data() {
-    QTest::addColumn<bool>("tree");
-    QTest::newRow("list view") << false;
-    QTest::newRow("tree view") << true;
-}
-
-void tst_KaFocusStyle::itemScrolledOutHidesRing() {
-    QFETCH(bool, tree);
-
-    QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
-    QStandardItemModel model;
-    for (int i = 0; i < 200; ++i)
-        model.appendRow(new QStandardItem(QStringLiteral("Item %1").arg(i)));
-    QAbstractItemView* view = nullptr;
-    if (tree) {
-        auto* treeView = new QTreeView(m_window.get());
-        treeView->setHeaderHidden(true);
-        treeView->setRootIsDecorated(false);
-        view = treeView;
-    } else {
-        view = new QListView(m_window.get());
-    }
-    view->setModel(&model);
-    view->setItemDelegate(new ViewStyleObjectDelegate(view));
-    view->setGeometry(20, 20, 200, 150);
-    view->setProperty("hasCustomRect", true);
-    view->setProperty("focusMargin", 0);
-    showWindow();
-    view->setCurrentIndex(model.index(2, 0));
-    view->setFocus(Qt::TabFocusReason);
-
-    // Inside the view, around the current item.
-    QTRY_VERIFY(view->findChild<CustomFocusOverlay*>() &&
-                view->findChild<CustomFocusOverlay*>()->isVisible());
-    CustomFocusOverlay* overlay = view->findChild<CustomFocusOverlay*>();
-    const QRect itemInView = view->visualRect(model.index(2, 0)).translated(view->viewport()->pos());
-    QTRY_COMPARE(overlay->geometry().topLeft(), itemInView.topLeft());
-    QCOMPARE(overlay->height(), itemInView.height());
-
-    view->scrollToBottom();
-    QTRY_VERIFY(!overlay->isVisible());
-    // Scrolling back brings it back, at the item's place.
-    view->scrollToTop();
-    QTRY_VERIFY(overlay->isVisible());
-    QTRY_COMPARE(overlay->geometry().topLeft(), itemInView.topLeft());
-
-    // Scrolled by one row: the ring follows the item.
-    view->verticalScrollBar()->setValue(view->verticalScrollBar()->singleStep());
-    const QRect moved = view->visualRect(model.index(2, 0)).translated(view->viewport()->pos());
-    QVERIFY(moved.top() < itemInView.top());
-    QTRY_COMPARE(overlay->geometry().topLeft(), moved.topLeft());
-    QVERIFY(overlay->isVisible());
-}
-
-void tst_KaFocusStyle::collapsedTreeItemHidesRing() {
-    QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
-    QStandardItemModel model;
-    auto* parentItem = new QStandardItem(QStringLiteral("Parent"));
-    for (int i = 0; i < 3; ++i)
-        parentItem->appendRow(new QStandardItem(QStringLiteral("Child %1").arg(i)));
-    model.appendRow(parentItem);
-    auto* tree = new QTreeView(m_window.get());
-    tree->setModel(&model);
-    tree->setItemDelegate(new ViewStyleObjectDelegate(tree));
-    tree->setHeaderHidden(true);
-    tree->setGeometry(20, 20, 200, 150);
-    tree->setProperty("hasCustomRect", true);
-    tree->expandAll();
-    showWindow();
-    const QModelIndex child = model.index(1, 0, model.index(0, 0));
-    tree->setCurrentIndex(child);
-    tree->setFocus(Qt::TabFocusReason);
-    QTRY_VERIFY(tree->findChild<CustomFocusOverlay*>() &&
-                tree->findChild<CustomFocusOverlay*>()->isVisible());
-    CustomFocusOverlay* overlay = tree->findChild<CustomFocusOverlay*>();
-
-    // Collapsing hides the row without moving the current index.
-    tree->collapse(model.index(0, 0));
-    QCOMPARE(tree->currentIndex(), child);
-    QTRY_VERIFY(!overlay->isVisible());
-    tree->expand(model.index(0, 0));
-    QTRY_VERIFY(overlay->isVisible());
-}
-
-void tst_KaFocusStyle::widgetScrolledOutOfScrollArea() {
-    QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
-    auto* area = new QScrollArea(m_window.get());
-    area->setGeometry(20, 20, 240, 200);
-    auto* content = new QWidget;
-    auto* layout = new QVBoxLayout(content);
-    QList<RingRequester*> buttons;
-    for (int i = 0; i < 30; ++i) {
-        buttons << new RingRequester;
-        buttons.constLast()->setFixedHeight(30);
-        layout->addWidget(buttons.constLast());
-    }
-    area->setWidgetResizable(true);
-    area->setWidget(content);
-    showWindow();
-    RingRequester* button = buttons.at(1);
-    // setFocus() is no key press: the window sets no keyboard flag.
-    qApp->setProperty("isKeyboardFocus", true);
-    button->setFocus(Qt::TabFocusReason);
-
-    // The ring lives on the viewport, clipped like the content.
-    QTRY_VERIFY(visibleOverlay(area->viewport()));
-    CustomFocusOverlay* overlay = overlayIn(area->viewport());
-    QCOMPARE(overlay->parentWidget(), area->viewport());
-    const auto inViewport = [&] {
-        return QRect(button->mapTo(area->viewport(), QPoint()), button->size());
-    };
-    QCOMPARE(overlay->geometry(), grown(inViewport(), 5));
-
-    area->ensureWidgetVisible(buttons.constLast());
-    QTRY_VERIFY(!overlay->isVisible());
-    area->ensureWidgetVisible(button);
-    QTRY_VERIFY(overlay->isVisible());
-    QTRY_COMPARE(overlay->geometry(), grown(inViewport(), 5));
-
-    // Partly scrolled: the ring follows the widget.
-    area->verticalScrollBar()->setValue(area->verticalScrollBar()->value() + 20);
-    QTRY_COMPARE(overlay->geometry(), grown(inViewport(), 5));
-    QVERIFY(overlay->isVisible());
-}
 
 QTEST_MAIN(tst_KaFocusStyle)
 #include "tst_kafocusstyle.moc"

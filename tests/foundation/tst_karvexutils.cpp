@@ -75,187 +75,173 @@ private:
 class tst_KarvexUtils : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void announce_data();
-    void announce();
-    void announceNullObject();
-
-    void simulateKeyEvent_data();
-    void simulateKeyEvent();
-    void simulateKeyEventKeepsOrderFromHandlers();
-    void simulateKeyEventNullTarget();
-    void simulateKeyEventTargetDeleted();
-
-    void updateThemes_data();
-    void updateThemes();
-    void updateThemesWidgetDeletedBeforeDelivery();
-};
-
-void tst_KarvexUtils::announce_data() {
-    QTest::addColumn<bool>("widget");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("object") << false << QStringLiteral("Menu opened");
-    QTest::newRow("widget") << true << QStringLiteral("Page 2 of 5");
-    QTest::newRow("empty text") << false << QString();
-    QTest::newRow("non-ASCII") << true << QStringLiteral("Gr\u00f6\u00dfe \u2713");
-}
-
-void tst_KarvexUtils::announce() {
-    QFETCH(bool, widget);
-    QFETCH(QString, text);
-
-    const AccessibilityRecorder::RecordingScope recording;
-    std::unique_ptr<QObject> object(widget ? new QWidget : new QObject);
-    PropertyChangeCounter properties;
-    object->installEventFilter(&properties);
-
-    KarvexUtils::announce(object.get(), text);
-
-    // Delivered at once, as a value change carrying the text.
-    const QList<AccessibilityRecorder::Event> events = AccessibilityRecorder::eventsFor(object.get());
-    QCOMPARE(events.size(), 1);
-    QCOMPARE(events.first().type, QAccessible::ValueChanged);
-    QCOMPARE(events.first().value.metaType(), QMetaType::fromType<QString>());
-    QCOMPARE(events.first().value.toString(), text);
-    // Announcing must not touch the object's properties (that would restyle it).
-    QCOMPARE(properties.cssChanges + properties.otherChanges, 0);
-    QVERIFY(object->dynamicPropertyNames().isEmpty());
-}
-
-void tst_KarvexUtils::announceNullObject() {
-    const AccessibilityRecorder::RecordingScope recording;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("announce")));
-    KarvexUtils::announce(nullptr, QStringLiteral("nobody"));
-    QVERIFY(AccessibilityRecorder::events().isEmpty());
-}
-
-void tst_KarvexUtils::simulateKeyEvent_data() {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("pressText");
-    QTest::newRow("letter") << int(Qt::Key_A) << QStringLiteral("A");
-    QTest::newRow("space") << int(Qt::Key_Space) << QStringLiteral("Space");
-    QTest::newRow("escape") << int(Qt::Key_Escape) << QStringLiteral("Esc");
-    QTest::newRow("unknown") << int(Qt::Key_unknown) << QString();
-}
-
-void tst_KarvexUtils::simulateKeyEvent() {
-    QFETCH(int, key);
-    QFETCH(QString, pressText);
-
-    QWidget target;
-    KeyRecorder recorder;
-    target.installEventFilter(&recorder);
-
-    KarvexUtils::simulateKeyEvent(&target, Qt::Key(key));
-    QVERIFY2(recorder.keys.isEmpty(), "delivered synchronously instead of posted");
-
-    QTRY_COMPARE(recorder.keys.size(), 2);
-    const KeyRecord press = recorder.keys.at(0);
-    const KeyRecord release = recorder.keys.at(1);
-    QCOMPARE(press.type, QEvent::KeyPress);
-    QCOMPARE(press.key, key);
-    QCOMPARE(press.text, pressText);
-    QCOMPARE(press.modifiers, Qt::NoModifier);
-    QVERIFY(!press.autoRepeat);
-    QCOMPARE(press.count, 1);
-    QCOMPARE(release.type, QEvent::KeyRelease);
-    QCOMPARE(release.key, key);
-    QVERIFY(release.text.isEmpty());
-    QCOMPARE(release.modifiers, Qt::NoModifier);
-    QVERIFY(!release.autoRepeat);
-    QCOMPARE(release.count, 1);
-}
-
-// Turning one key into another from inside the target's own event handling:
-// the new key arrives after the old key's release.
-void tst_KarvexUtils::simulateKeyEventKeepsOrderFromHandlers() {
-    QWidget target;
-    KeyRecorder recorder;
-    recorder.remapFrom = Qt::Key_Tab;
-    recorder.remapTo = Qt::Key_Down;
-    target.installEventFilter(&recorder);
-
-    KarvexUtils::simulateKeyEvent(&target, Qt::Key_Tab);
-    QTRY_COMPARE(recorder.keys.size(), 4);
-    const QList<QPair<QEvent::Type, int>> expected{{QEvent::KeyPress, Qt::Key_Tab},
-                                                   {QEvent::KeyRelease, Qt::Key_Tab},
-                                                   {QEvent::KeyPress, Qt::Key_Down},
-                                                   {QEvent::KeyRelease, Qt::Key_Down}};
-    for (int i = 0; i < expected.size(); ++i) {
-        QCOMPARE(recorder.keys.at(i).type, expected.at(i).first);
-        QCOMPARE(recorder.keys.at(i).key, expected.at(i).second);
+    void announce_data() {
+        QTest::addColumn<bool>("widget");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("object") << false << QStringLiteral("Menu opened");
+        QTest::newRow("widget") << true << QStringLiteral("Page 2 of 5");
+        QTest::newRow("empty text") << false << QString();
+        QTest::newRow("non-ASCII") << true << QStringLiteral("Gr\u00f6\u00dfe \u2713");
     }
-}
 
-void tst_KarvexUtils::simulateKeyEventNullTarget() {
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("simulateKeyEvent")));
-    KarvexUtils::simulateKeyEvent(nullptr, Qt::Key_A);
-    QCoreApplication::processEvents();
-}
+    void announce() {
+        QFETCH(bool, widget);
+        QFETCH(QString, text);
 
-void tst_KarvexUtils::simulateKeyEventTargetDeleted() {
-    KeyRecorder doomedKeys;
-    KeyRecorder survivorKeys;
-    auto* doomed = new QWidget;
-    QWidget survivor;
-    doomed->installEventFilter(&doomedKeys);
-    survivor.installEventFilter(&survivorKeys);
-    KarvexUtils::simulateKeyEvent(doomed, Qt::Key_A);
-    KarvexUtils::simulateKeyEvent(&survivor, Qt::Key_A);
-    delete doomed;
-    // Posted after the doomed one's keys: once they arrive, those had their turn.
-    QTRY_COMPARE(survivorKeys.keys.size(), 2);
-    QVERIFY(doomedKeys.keys.isEmpty());
-}
+        const AccessibilityRecorder::RecordingScope recording;
+        std::unique_ptr<QObject> object(widget ? new QWidget : new QObject);
+        PropertyChangeCounter properties;
+        object->installEventFilter(&properties);
 
-void tst_KarvexUtils::updateThemes_data() {
-    QTest::addColumn<QVariant>("css");
-    QTest::addColumn<bool>("themed");
-    const QVariant css(QStringLiteral("QWidget { background: $(panel-primary-background); }"));
-    QTest::newRow("css and slot") << css << true;
-    QTest::newRow("empty css") << QVariant(QString()) << true;
-    QTest::newRow("css, no slot") << css << false;
-    QTest::newRow("neither") << QVariant() << false;
-}
+        KarvexUtils::announce(object.get(), text);
 
-// A non-empty "css" is written again (unchanged); the slot is queued, once.
-void tst_KarvexUtils::updateThemes() {
-    QFETCH(QVariant, css);
-    QFETCH(bool, themed);
-    int calls = 0;
-    std::unique_ptr<QWidget> widget(themed ? new ThemedWidget(&calls) : new QWidget);
-    if (css.isValid())
-        widget->setProperty("css", css);
-    PropertyChangeCounter properties;
-    widget->installEventFilter(&properties);
-    const bool rewritten = !css.toString().isEmpty();
+        // Delivered at once, as a value change carrying the text.
+        const QList<AccessibilityRecorder::Event> events = AccessibilityRecorder::eventsFor(object.get());
+        QCOMPARE(events.size(), 1);
+        QCOMPARE(events.first().type, QAccessible::ValueChanged);
+        QCOMPARE(events.first().value.metaType(), QMetaType::fromType<QString>());
+        QCOMPARE(events.first().value.toString(), text);
+        // Announcing must not touch the object's properties (that would restyle it).
+        QCOMPARE(properties.cssChanges + properties.otherChanges, 0);
+        QVERIFY(object->dynamicPropertyNames().isEmpty());
+    }
 
-    KarvexUtils::updateSolvaneThemes();
+    void announceNullObject() {
+        const AccessibilityRecorder::RecordingScope recording;
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("announce")));
+        KarvexUtils::announce(nullptr, QStringLiteral("nobody"));
+        QVERIFY(AccessibilityRecorder::events().isEmpty());
+    }
 
-    QCOMPARE(properties.cssChanges > 0, rewritten);
-    QCOMPARE(properties.otherChanges, 0);
-    QCOMPARE(widget->property("css"), css);
-    QCOMPARE(calls, 0); // queued, not called
-    if (themed)
-        QTRY_COMPARE(calls, 1);
-    QCoreApplication::processEvents();
-    QCOMPARE(calls, themed ? 1 : 0);
-    QCOMPARE(properties.cssChanges > 0, rewritten);
-}
+    void simulateKeyEvent_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("pressText");
+        QTest::newRow("letter") << int(Qt::Key_A) << QStringLiteral("A");
+        QTest::newRow("space") << int(Qt::Key_Space) << QStringLiteral("Space");
+        QTest::newRow("escape") << int(Qt::Key_Escape) << QStringLiteral("Esc");
+        QTest::newRow("unknown") << int(Qt::Key_unknown) << QString();
+    }
 
-void tst_KarvexUtils::updateThemesWidgetDeletedBeforeDelivery() {
-    int survivorCalls = 0;
-    int deletedCalls = 0;
-    ThemedWidget survivor(&survivorCalls);
-    auto* doomed = new ThemedWidget(&deletedCalls);
-    doomed->setProperty("css", QStringLiteral("QWidget { color: $(text); }"));
+    void simulateKeyEvent() {
+        QFETCH(int, key);
+        QFETCH(QString, pressText);
 
-    KarvexUtils::updateSolvaneThemes();
-    delete doomed;
+        QWidget target;
+        KeyRecorder recorder;
+        target.installEventFilter(&recorder);
 
-    QTRY_COMPARE(survivorCalls, 1);
-    QCoreApplication::processEvents();
-    QCOMPARE(deletedCalls, 0);
-}
+        KarvexUtils::simulateKeyEvent(&target, Qt::Key(key));
+        QVERIFY2(recorder.keys.isEmpty(), "delivered synchronously instead of posted");
+
+        QTRY_COMPARE(recorder.keys.size(), 2);
+        const KeyRecord press = recorder.keys.at(0);
+        const KeyRecord release = recorder.keys.at(1);
+        QCOMPARE(press.type, QEvent::KeyPress);
+        QCOMPARE(press.key, key);
+        QCOMPARE(press.text, pressText);
+        QCOMPARE(press.modifiers, Qt::NoModifier);
+        QVERIFY(!press.autoRepeat);
+        QCOMPARE(press.count, 1);
+        QCOMPARE(release.type, QEvent::KeyRelease);
+        QCOMPARE(release.key, key);
+        QVERIFY(release.text.isEmpty());
+        QCOMPARE(release.modifiers, Qt::NoModifier);
+        QVERIFY(!release.autoRepeat);
+        QCOMPARE(release.count, 1);
+    }
+
+    // Turning one key into another from inside the target's own event handling:
+    // the new key arrives after the old key's release.
+    void simulateKeyEventKeepsOrderFromHandlers() {
+        QWidget target;
+        KeyRecorder recorder;
+        recorder.remapFrom = Qt::Key_Tab;
+        recorder.remapTo = Qt::Key_Down;
+        target.installEventFilter(&recorder);
+
+        KarvexUtils::simulateKeyEvent(&target, Qt::Key_Tab);
+        QTRY_COMPARE(recorder.keys.size(), 4);
+        const QList<QPair<QEvent::Type, int>> expected{{QEvent::KeyPress, Qt::Key_Tab},
+                                                       {QEvent::KeyRelease, Qt::Key_Tab},
+                                                       {QEvent::KeyPress, Qt::Key_Down},
+                                                       {QEvent::KeyRelease, Qt::Key_Down}};
+        for (int i = 0; i < expected.size(); ++i) {
+            QCOMPARE(recorder.keys.at(i).type, expected.at(i).first);
+            QCOMPARE(recorder.keys.at(i).key, expected.at(i).second);
+        }
+    }
+
+    void simulateKeyEventNullTarget() {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("simulateKeyEvent")));
+        KarvexUtils::simulateKeyEvent(nullptr, Qt::Key_A);
+        QCoreApplication::processEvents();
+    }
+
+    void simulateKeyEventTargetDeleted() {
+        KeyRecorder doomedKeys;
+        KeyRecorder survivorKeys;
+        auto* doomed = new QWidget;
+        QWidget survivor;
+        doomed->installEventFilter(&doomedKeys);
+        survivor.installEventFilter(&survivorKeys);
+        KarvexUtils::simulateKeyEvent(doomed, Qt::Key_A);
+        KarvexUtils::simulateKeyEvent(&survivor, Qt::Key_A);
+        delete doomed;
+        // Posted after the doomed one's keys: once they arrive, those had their turn.
+        QTRY_COMPARE(survivorKeys.keys.size(), 2);
+        QVERIFY(doomedKeys.keys.isEmpty());
+    }
+
+    void updateThemes_data() {
+        QTest::addColumn<QVariant>("css");
+        QTest::addColumn<bool>("themed");
+        const QVariant css(QStringLiteral("QWidget { background: $(panel-primary-background); }"));
+        QTest::newRow("css and slot") << css << true;
+        QTest::newRow("empty css") << QVariant(QString()) << true;
+        QTest::newRow("css, no slot") << css << false;
+        QTest::newRow("neither") << QVariant() << false;
+    }
+
+    // A non-empty "css" is written again (unchanged); the slot is queued, once.
+    void updateThemes() {
+        QFETCH(QVariant, css);
+        QFETCH(bool, themed);
+        int calls = 0;
+        std::unique_ptr<QWidget> widget(themed ? new ThemedWidget(&calls) : new QWidget);
+        if (css.isValid())
+            widget->setProperty("css", css);
+        PropertyChangeCounter properties;
+        widget->installEventFilter(&properties);
+        const bool rewritten = !css.toString().isEmpty();
+
+        KarvexUtils::updateSolvaneThemes();
+
+        QCOMPARE(properties.cssChanges > 0, rewritten);
+        QCOMPARE(properties.otherChanges, 0);
+        QCOMPARE(widget->property("css"), css);
+        QCOMPARE(calls, 0); // queued, not called
+        if (themed)
+            QTRY_COMPARE(calls, 1);
+        QCoreApplication::processEvents();
+        QCOMPARE(calls, themed ? 1 : 0);
+        QCOMPARE(properties.cssChanges > 0, rewritten);
+    }
+
+    void updateThemesWidgetDeletedBeforeDelivery() {
+        int survivorCalls = 0;
+        int deletedCalls = 0;
+        ThemedWidget survivor(&survivorCalls);
+        auto* doomed = new ThemedWidget(&deletedCalls);
+        doomed->setProperty("css", QStringLiteral("QWidget { color: $(text); }"));
+
+        KarvexUtils::updateSolvaneThemes();
+        delete doomed;
+
+        QTRY_COMPARE(survivorCalls, 1);
+        QCoreApplication::processEvents();
+        QCOMPARE(deletedCalls, 0);
+    }
+};
 
 QTEST_MAIN(tst_KarvexUtils)
 #include "tst_karvexutils.moc"

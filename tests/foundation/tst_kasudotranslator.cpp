@@ -22,70 +22,65 @@ public:
 class tst_KaSudoTranslator : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void doubles_data();
-    void doubles();
-    void nullSourceText();
-    void installedAnswersLookups();
-    void shadowsEarlierTranslators();
-};
-
-void tst_KaSudoTranslator::doubles_data() {
-    QTest::addColumn<QByteArray>("source");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("two characters") << QByteArray("OK") << QStringLiteral("OK OK");
-    QTest::newRow("empty") << QByteArray("") << QStringLiteral(" ");
-    QTest::newRow("sentence") << QByteArray("Save changes?") << QStringLiteral("Save changes? Save changes?");
-    QTest::newRow("placeholders") << QByteArray("%1, %2 of %3")
-                                  << QStringLiteral("%1, %2 of %3 %1, %2 of %3");
-    QTest::newRow("UTF-8") << QByteArray("Gr\xc3\xb6\xc3\x9f"
-                                         "e")
-                           << QStringLiteral("Gr\u00f6\u00dfe Gr\u00f6\u00dfe");
-}
-
-void tst_KaSudoTranslator::doubles() {
-    QFETCH(QByteArray, source);
-    QFETCH(QString, expected);
-    KaSudoTranslator translator;
-    const QString result = translator.translate("Context", source.constData());
-    QCOMPARE(result, expected);
-    QCOMPARE(result.size(), 2 * QString::fromUtf8(source).size() + 1);
-    // Context, disambiguation and count change nothing.
-    QCOMPARE(translator.translate("Other", source.constData(), "menu", 3), expected);
-}
-
-void tst_KaSudoTranslator::nullSourceText() {
-    KaSudoTranslator translator;
-    const QString result = translator.translate("Context", nullptr);
-    QVERIFY(!result.isNull());
-    QCOMPARE(result, QStringLiteral(" "));
-}
-
-void tst_KaSudoTranslator::installedAnswersLookups() {
-    KaSudoTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    {
-        const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
-        QCOMPARE(QCoreApplication::translate("KaMenu", "Close"), QStringLiteral("Close Close"));
-        // Qt fills %n after the lookup, in both copies.
-        QCOMPARE(QCoreApplication::translate("KaMenu", "%n items", nullptr, 3),
-                 QStringLiteral("3 items 3 items"));
+    void doubles_data() {
+        QTest::addColumn<QByteArray>("source");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("two characters") << QByteArray("OK") << QStringLiteral("OK OK");
+        QTest::newRow("empty") << QByteArray("") << QStringLiteral(" ");
+        QTest::newRow("sentence") << QByteArray("Save changes?")
+                                  << QStringLiteral("Save changes? Save changes?");
+        QTest::newRow("placeholders")
+            << QByteArray("%1, %2 of %3") << QStringLiteral("%1, %2 of %3 %1, %2 of %3");
+        QTest::newRow("UTF-8") << QByteArray("Gr\xc3\xb6\xc3\x9f"
+                                             "e")
+                               << QStringLiteral("Gr\u00f6\u00dfe Gr\u00f6\u00dfe");
     }
-    QCOMPARE(QCoreApplication::translate("KaMenu", "Close"), QStringLiteral("Close"));
-}
 
-void tst_KaSudoTranslator::shadowsEarlierTranslators() {
-    CountingTranslator earlier;
-    KaSudoTranslator translator;
-    QCoreApplication::installTranslator(&earlier);
-    QCoreApplication::installTranslator(&translator);
-    const auto remove = qScopeGuard([&] {
-        QCoreApplication::removeTranslator(&translator);
-        QCoreApplication::removeTranslator(&earlier);
-    });
+    void doubles() {
+        QFETCH(QByteArray, source);
+        QFETCH(QString, expected);
+        KaSudoTranslator translator;
+        const QString result = translator.translate("Context", source.constData());
+        QCOMPARE(result, expected);
+        QCOMPARE(result.size(), 2 * QString::fromUtf8(source).size() + 1);
+        // Context, disambiguation and count change nothing.
+        QCOMPARE(translator.translate("Other", source.constData(), "menu", 3), expected);
+    }
 
-    QCOMPARE(QCoreApplication::translate("KaMenu", "Open"), QStringLiteral("Open Open"));
-    QCOMPARE(earlier.asked, 0);
-}
+    void nullSourceText() {
+        KaSudoTranslator translator;
+        const QString result = translator.translate("Context", nullptr);
+        QVERIFY(!result.isNull());
+        QCOMPARE(result, QStringLiteral(" "));
+    }
+
+    void installedAnswersLookups() {
+        KaSudoTranslator translator;
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        {
+            const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&translator); });
+            QCOMPARE(QCoreApplication::translate("KaMenu", "Close"), QStringLiteral("Close Close"));
+            // Qt fills %n after the lookup, in both copies.
+            QCOMPARE(QCoreApplication::translate("KaMenu", "%n items", nullptr, 3),
+                     QStringLiteral("3 items 3 items"));
+        }
+        QCOMPARE(QCoreApplication::translate("KaMenu", "Close"), QStringLiteral("Close"));
+    }
+
+    void shadowsEarlierTranslators() {
+        CountingTranslator earlier;
+        KaSudoTranslator translator;
+        QCoreApplication::installTranslator(&earlier);
+        QCoreApplication::installTranslator(&translator);
+        const auto remove = qScopeGuard([&] {
+            QCoreApplication::removeTranslator(&translator);
+            QCoreApplication::removeTranslator(&earlier);
+        });
+
+        QCOMPARE(QCoreApplication::translate("KaMenu", "Open"), QStringLiteral("Open Open"));
+        QCOMPARE(earlier.asked, 0);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_KaSudoTranslator)
 #include "tst_kasudotranslator.moc"
