@@ -294,38 +294,22 @@ private Q_SLOTS:
 
         // Just inside the tip the arrow is solid; the same distance from the
         // body further along the edge is (almost) empty.
-        const QPoint mid(100, 60);
-        QPoint tip;
-        QPoint aside;
-        const int in = ShadowMargin + 3;
-        switch (side) {
-        case KaPopupEnum::Top:
-            tip = QPoint(mid.x(), 119 - in);
-            aside = QPoint(body.left() + 20, tip.y());
-            break;
-        case KaPopupEnum::Left:
-            tip = QPoint(199 - in, mid.y());
-            aside = QPoint(tip.x(), body.top() + 15);
-            break;
-        case KaPopupEnum::Right:
-            tip = QPoint(in, mid.y());
-            aside = QPoint(tip.x(), body.top() + 15);
-            break;
-        default:
-            tip = QPoint(mid.x(), in);
-            aside = QPoint(body.left() + 20, tip.y());
-            break;
-        }
+        const auto tipAt = [side](int in) { // `in` pixels in from the tip's edge
+            return side == KaPopupEnum::Top     ? QPoint(100, 119 - in)
+                   : side == KaPopupEnum::Left  ? QPoint(199 - in, 60)
+                   : side == KaPopupEnum::Right ? QPoint(in, 60)
+                                                : QPoint(100, in);
+        };
+        const QPoint tip = tipAt(ShadowMargin + 3);
+        const bool vertical = side == KaPopupEnum::Top || side == KaPopupEnum::Bottom;
+        const QPoint aside = vertical ? QPoint(body.left() + 20, tip.y()) : QPoint(tip.x(), body.top() + 15);
         if (arrow) {
             QCOMPARE(alphaAt(image, tip.x(), tip.y()), 255);
             QVERIFY(alphaAt(image, aside.x(), aside.y()) < 64);
         } else {
             // Without an arrow the body's edge comes right up to where the tip
             // would be, so both open at the same distance from the anchor.
-            const QPoint edge = side == KaPopupEnum::Top     ? QPoint(mid.x(), 119 - ShadowMargin)
-                                : side == KaPopupEnum::Left  ? QPoint(199 - ShadowMargin, mid.y())
-                                : side == KaPopupEnum::Right ? QPoint(ShadowMargin, mid.y())
-                                                             : QPoint(mid.x(), ShadowMargin);
+            const QPoint edge = tipAt(ShadowMargin);
             QCOMPARE(logicalPixel(image, edge.x(), edge.y()), bubble.colors.border);
         }
     }
