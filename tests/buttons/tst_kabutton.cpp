@@ -134,9 +134,7 @@ private Q_SLOTS:
         button.setStyle(KaButtonEnum::Style(style));
         button.setCheckable(true);
         button.setGeometry(0, 0, 100, 32);
-        window.setGeometry(300, 300, 120, 40);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(shown(window, QRect(300, 300, 120, 40)));
 
         const QPoint inside(50, 16);
         const auto faceFor = [&](bool checked) {
@@ -181,9 +179,7 @@ private Q_SLOTS:
         button.setRightIcon(QStringLiteral(":/Resources/arrow-down_8.svg"));
         button.setRightIconOn(QStringLiteral(":/Resources/arrow-up_8.svg"));
         button.setGeometry(20, 20, 160, 32);
-        window.setGeometry(100, 100, 300, 200);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(shown(window, QRect(100, 100, 300, 200)));
 
         auto* menu = new TestMenu(&window);
         button.setMenu(menu);

@@ -66,9 +66,7 @@ private Q_SLOTS:
         QWidget window;
         auto* link = new KaHyperlinkButton(QStringLiteral("Learn more"), &window);
         link->move(20, 20);
-        window.resize(200, 80);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(shown(window, QRect(300, 300, 200, 80)));
         QTest::mouseMove(&window, QPoint(5, 5));
         QVERIFY(!link->isUnderlined());
         link->resize(link->sizeHint());

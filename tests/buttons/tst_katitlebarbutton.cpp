@@ -26,8 +26,7 @@ private Q_SLOTS:
     void minimiseActsOnWindow() {
         QWidget window;
         auto* button = new KaTitleBarButton(Config::Minimize, &window);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(shown(window));
         QCOMPARE(name(button), QStringLiteral("Minimize"));
         QTest::mouseClick(button, Qt::LeftButton);
         QTRY_VERIFY(window.isMinimized());
@@ -36,8 +35,7 @@ private Q_SLOTS:
     void maximiseToggles() {
         QWidget window;
         auto* button = new KaTitleBarButton(Config::Maximize, &window);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(shown(window));
         QCOMPARE(button->glyph(), Config::MaximizeGlyph);
         QCOMPARE(name(button), QStringLiteral("Maximize"));
 
@@ -74,8 +72,7 @@ private Q_SLOTS:
         QWidget window;
         auto* button = new KaTitleBarButton(&window);
         QCOMPARE(button->type(), Config::Close);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(shown(window));
         QTest::mouseClick(button, Qt::LeftButton);
         QTRY_VERIFY(!window.isVisible());
     }

@@ -248,9 +248,7 @@ private Q_SLOTS:
         // Every flag asks for a ring.
         target->setProperty("alwaysShowFocusRectWhenFocused", true);
         qApp->setProperty("isKeyboardFocus", true);
-        showWindow();
-        target->setFocus(Qt::TabFocusReason);
-        drainQueued();
+        showAndFocus(target);
 
         QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
         requestRing(style, target);
@@ -317,9 +315,7 @@ private Q_SLOTS:
     void customRect() {
         KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
         auto* target = new Target(m_window.get(), QRect(50, 60, 200, 100));
-        showWindow();
-        target->setFocus(Qt::TabFocusReason);
-        drainQueued();
+        showAndFocus(target);
 
         // Without "hasCustomRect" the option's rectangle is ignored.
         const QRect part(10, 20, 60, 24);
@@ -337,9 +333,7 @@ private Q_SLOTS:
     void otherPrimitivesPassThrough() {
         KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
         auto* target = new Target(m_window.get(), QRect(10, 10, 60, 30));
-        showWindow();
-        target->setFocus(Qt::TabFocusReason);
-        drainQueued();
+        showAndFocus(target);
 
         QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
         QStyleOptionFrame frame;
@@ -440,9 +434,7 @@ private Q_SLOTS:
     void focusedWidgetDeletedBeforeDeferredStep() {
         KaFocusStyle style(kOuter, kInner, false, new UnderlineHintStyle(false));
         auto* keep = new Target(m_window.get(), QRect(10, 10, 60, 30));
-        showWindow();
-        keep->setFocus(Qt::TabFocusReason);
-        drainQueued();
+        showAndFocus(keep);
         QVERIFY(overlayIn(m_window.get()));
 
         auto* doomed = new Target(m_window.get(), QRect(100, 10, 60, 30));
@@ -485,9 +477,7 @@ private Q_SLOTS:
         list->addItems({QStringLiteral("one"), QStringLiteral("two")});
         list->setGeometry(10, 10, 150, 100);
         auto* other = new Target(m_window.get(), QRect(200, 10, 60, 30));
-        showWindow();
-        list->setFocus(Qt::TabFocusReason);
-        drainQueued();
+        showAndFocus(list);
         QVERIFY(list->findChild<CustomFocusOverlay*>());
         QSignalSpy spy(&style, &KaFocusStyle::updateOverlay);
         requestRing(style, list);
@@ -702,6 +692,13 @@ private:
         m_window->show();
         QApplication::setActiveWindow(m_window.get());
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    // Shows the window and focuses `target` as the keyboard does.
+    void showAndFocus(QWidget* target) {
+        showWindow();
+        target->setFocus(Qt::TabFocusReason);
+        drainQueued();
     }
 };
 

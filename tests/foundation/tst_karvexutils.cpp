@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <tuple>
 
 namespace {
 
@@ -15,6 +16,10 @@ struct KeyRecord {
     Qt::KeyboardModifiers modifiers;
     bool autoRepeat;
     int count;
+    bool operator==(const KeyRecord& o) const {
+        return std::tie(type, key, text, modifiers, autoRepeat, count) ==
+               std::tie(o.type, o.key, o.text, o.modifiers, o.autoRepeat, o.count);
+    }
 };
 
 // Records the key events that reach a widget; optionally reacts to one key
@@ -134,20 +139,11 @@ private Q_SLOTS:
         QVERIFY2(recorder.keys.isEmpty(), "delivered synchronously instead of posted");
 
         QTRY_COMPARE(recorder.keys.size(), 2);
-        const KeyRecord press = recorder.keys.at(0);
-        const KeyRecord release = recorder.keys.at(1);
-        QCOMPARE(press.type, QEvent::KeyPress);
-        QCOMPARE(press.key, key);
-        QCOMPARE(press.text, pressText);
-        QCOMPARE(press.modifiers, Qt::NoModifier);
-        QVERIFY(!press.autoRepeat);
-        QCOMPARE(press.count, 1);
-        QCOMPARE(release.type, QEvent::KeyRelease);
-        QCOMPARE(release.key, key);
-        QVERIFY(release.text.isEmpty());
-        QCOMPARE(release.modifiers, Qt::NoModifier);
-        QVERIFY(!release.autoRepeat);
-        QCOMPARE(release.count, 1);
+        // Plain press with the key's text, then a release without text.
+        QVERIFY(recorder.keys.at(0) ==
+                (KeyRecord{QEvent::KeyPress, key, pressText, Qt::NoModifier, false, 1}));
+        QVERIFY(recorder.keys.at(1) ==
+                (KeyRecord{QEvent::KeyRelease, key, QString(), Qt::NoModifier, false, 1}));
     }
 
     // Turning one key into another from inside the target's own event handling:
