@@ -138,25 +138,17 @@ private Q_SLOTS:
     }
 
     void setSizeNotifiesOnlyOnChange_data() {
-        QTest::addColumn<bool>("round");
         QTest::addColumn<int>("size");
         QTest::addColumn<int>("notifications");
-        // The pill starts Large, the round button Small.
-        QTest::newRow("pill, same") << false << int(KaButtonEnum::Large) << 0;
-        QTest::newRow("pill, other") << false << int(KaButtonEnum::Small) << 1;
-        QTest::newRow("round, same") << true << int(KaButtonEnum::Small) << 0;
-        QTest::newRow("round, other") << true << int(KaButtonEnum::Large) << 1;
+        // The pill starts Large; the round button shares the setter.
+        QTest::newRow("same") << int(KaButtonEnum::Large) << 0;
+        QTest::newRow("other") << int(KaButtonEnum::Small) << 1;
     }
 
     void setSizeNotifiesOnlyOnChange() {
-        QFETCH(bool, round);
         QFETCH(int, size);
         QFETCH(int, notifications);
-        std::unique_ptr<KaButtonConfig> config;
-        if (round)
-            config = std::make_unique<KaRoundButtonConfig>();
-        else
-            config = std::make_unique<KaPillButtonConfig>();
+        const auto config = std::make_unique<KaPillButtonConfig>();
         QSignalSpy sizeSpy(config.get(), &KaButtonConfig::sizeChanged);
         QSignalSpy configSpy(config.get(), &IKaButtonConfig::configChanged);
 
@@ -246,19 +238,6 @@ private Q_SLOTS:
         KaPillButtonConfig::Geometry geometry;
         pill.fillGeometry(geometry);
         QCOMPARE(geometry.anchorIconVisible, hasRightIcon);
-    }
-
-    void emptyLeftIconClearsFlag() {
-        KaPillButtonConfig pill;
-        QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
-        pill.setLeftIcon(QStringLiteral("qrc:/Resources/chat-filled.svg"));
-        QVERIFY(pill.hasLeftIcon());
-        QCOMPARE(pill.svgIcon(), QStringLiteral("qrc:/Resources/chat-filled.svg"));
-        pill.setLeftIcon(QStringLiteral("qrc:/Resources/chat-filled.svg")); // same path: nothing
-        pill.setLeftIcon(QString());
-        QVERIFY(!pill.hasLeftIcon());
-        // One refresh per real change, although the flag changed as well.
-        QCOMPARE(configSpy.count(), 2);
     }
 
     void customValueBecomesAcceleratorType() {

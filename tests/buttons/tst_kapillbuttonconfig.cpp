@@ -84,16 +84,22 @@ private Q_SLOTS:
         QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
         KaPillButtonConfig::Geometry g;
 
-        pill.setLeftIcon(QStringLiteral("qrc:/Resources/meet-bold.svg"));
+        const QString icon = QStringLiteral("qrc:/Resources/meet-bold.svg");
+        pill.setLeftIcon(icon);
+        QVERIFY(pill.hasLeftIcon());
+        QCOMPARE(pill.svgIcon(), icon);
         pill.fillGeometry(g);
         QCOMPARE(g.svgIconSpacing, 4);
         QCOMPARE(g.svgIconSize, QSize(16, 16));
 
+        pill.setLeftIcon(icon); // same path: nothing
         pill.setLeftIcon(QString());
+        QVERIFY(!pill.hasLeftIcon());
         pill.fillGeometry(g);
         QCOMPARE(g.svgIconSpacing, 0);
         QCOMPARE(g.svgIconSize, QSize(0, 0));
         QCOMPARE(g.svgIconVisible, false);
+        // One refresh per real change, although the flag changed as well.
         QCOMPARE(configSpy.count(), 2);
     }
 
