@@ -31,8 +31,6 @@
 
 namespace {
 
-const char* const kThemes[] = {"dark", "light"};
-
 // Half primary, half secondary: both a borderless and a bordered face.
 KaButtonEnum::Style styleOf(int i) {
     return i % 2 ? KaButtonEnum::Secondary : KaButtonEnum::Primary;
@@ -70,18 +68,7 @@ QWidget* makePlain(int i, QWidget* parent, BzThemeUtils::AppThemeType type) {
 
 double measurePillSwitch(int count, int rounds) {
     auto window = bench::makeGrid(count, makePill);
-    std::vector<double> times;
-    for (int r = 0; r < rounds; ++r) {
-        BzThemeManager::instance()->setCurrentTheme(QLatin1String(kThemes[r % 2]), BzThemeManager::DataOnly);
-        QElapsedTimer timer;
-        timer.start();
-        KarvexUtils::updateSolvaneThemes();
-        QCoreApplication::processEvents();
-        window->repaint();
-        times.push_back(timer.nsecsElapsed() / 1e6);
-    }
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-    return bench::median(times);
+    return bench::timeThemeSwitches(window.get(), rounds);
 }
 
 double measurePlainRestyle(int count, int rounds) {

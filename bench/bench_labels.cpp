@@ -32,8 +32,6 @@
 
 namespace {
 
-const char* const kThemes[] = {"dark", "light"};
-
 // Texts of a few lengths, as a form or a list shows them.
 QString textOf(int i) {
     switch (i % 4) {
@@ -74,18 +72,7 @@ QPalette paletteFor(BzThemeUtils::AppThemeType type, const QPalette& base) {
 
 double measureKaLabelSwitch(int count, int rounds) {
     auto window = bench::makeGrid(count, makeKaLabel);
-    std::vector<double> times;
-    for (int r = 0; r < rounds; ++r) {
-        BzThemeManager::instance()->setCurrentTheme(QLatin1String(kThemes[r % 2]), BzThemeManager::DataOnly);
-        QElapsedTimer timer;
-        timer.start();
-        KarvexUtils::updateSolvaneThemes();
-        QCoreApplication::processEvents();
-        window->repaint();
-        times.push_back(timer.nsecsElapsed() / 1e6);
-    }
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-    return bench::median(times);
+    return bench::timeThemeSwitches(window.get(), rounds);
 }
 
 double measurePaletteSwitch(int count, int rounds) {

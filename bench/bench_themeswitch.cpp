@@ -36,8 +36,6 @@ public:
 // Small widgets, 50 to a row.
 const bench::GridShape kShape{50, 1, QSize(1600, 1000)};
 
-const char* const kThemes[] = {"dark", "light"};
-
 double measureBase(int count, int rounds) {
     auto window = bench::makeGrid(
         count,
@@ -59,17 +57,7 @@ double measureBase(int count, int rounds) {
             return box;
         },
         kShape);
-    std::vector<double> times;
-    for (int r = 0; r < rounds; ++r) {
-        BzThemeManager::instance()->setCurrentTheme(QLatin1String(kThemes[r % 2]), BzThemeManager::DataOnly);
-        QElapsedTimer timer;
-        timer.start();
-        KarvexUtils::updateSolvaneThemes();
-        QCoreApplication::processEvents();
-        window->repaint();
-        times.push_back(timer.nsecsElapsed() / 1e6);
-    }
-    return bench::median(times);
+    return bench::timeThemeSwitches(window.get(), rounds);
 }
 
 double measurePlain(int count, int rounds) {

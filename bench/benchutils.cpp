@@ -1,5 +1,9 @@
 #include "benchutils.h"
 
+#include "karvexutils.h"
+
+#include "bzthememanager.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -96,6 +100,22 @@ std::pair<double, double> compareHeap(int count, const MakeWidget& ours, const M
         b.push_back(heapPerWidget(count, plain, shape));
     }
     return {median(a), median(b)};
+}
+
+double timeThemeSwitches(QWidget* window, int rounds) {
+    static const char* const themes[] = {"dark", "light"};
+    std::vector<double> times;
+    for (int r = 0; r < rounds; ++r) {
+        BzThemeManager::instance()->setCurrentTheme(QLatin1String(themes[r % 2]), BzThemeManager::DataOnly);
+        QElapsedTimer timer;
+        timer.start();
+        KarvexUtils::updateSolvaneThemes();
+        QCoreApplication::processEvents();
+        window->repaint();
+        times.push_back(timer.nsecsElapsed() / 1e6);
+    }
+    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
+    return median(times);
 }
 
 } // namespace bench

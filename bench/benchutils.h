@@ -49,6 +49,11 @@ std::pair<double, double> compareCreation(int count, int rounds, const MakeWidge
 // tables grown, and later grids reuse that room).
 std::pair<double, double> compareHeap(int count, const MakeWidget& ours, const MakeWidget& plain);
 
+// Median milliseconds of `rounds` theme switches over `window`, alternating
+// dark and light: the host's data-only switch, updateSolvaneThemes(), the
+// queued slots and the repaint. Ends in the light theme.
+double timeThemeSwitches(QWidget* window, int rounds);
+
 // Deletes what is scheduled for deletion and settles posted events.
 void flushEvents();
 
