@@ -6,29 +6,16 @@
 #include <bzscaledfont.h>
 #include <bzthemeutils.h>
 #include <kalabelbase.h>
+#include <kascrollbarutils.h>
 
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QLabel>
 #include <QScrollArea>
-#include <QScrollBar>
 
 namespace {
-// Scroll bars get their own template: a template on the scroll area would
-// cascade into every label of the page and fight with their palettes.
-const char kScrollBarTemplate[] = R"(
-QScrollBar { background: $(scrollbar-track-background); border: none; margin: 0; }
-QScrollBar:vertical { width: 10px; }
-QScrollBar:horizontal { height: 10px; }
-QScrollBar::handle { background: $(scrollbar-thumb-background); border-radius: 3px; margin: 2px; }
-QScrollBar::handle:hover { background: $(scrollbar-thumb-background.hovered); }
-QScrollBar::handle:pressed { background: $(scrollbar-thumb-background.pressed); }
-QScrollBar::handle:vertical { min-height: 24px; }
-QScrollBar::handle:horizontal { min-width: 24px; }
-QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; background: none; }
-QScrollBar::add-page, QScrollBar::sub-page { background: none; }
-)";
+
 const char kHeadingProperty[] = "galleryHeading";
 
 // A label read as a heading: named after its text.
@@ -146,8 +133,9 @@ void styleScrollArea(QScrollArea* area) {
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->viewport()->setAutoFillBackground(false);
-    BzThemeUtils::setWidgetCSS(area->verticalScrollBar(), QString::fromLatin1(kScrollBarTemplate));
-    BzThemeUtils::setWidgetCSS(area->horizontalScrollBar(), QString::fromLatin1(kScrollBarTemplate));
+    // On the scroll bars, not the area: a sheet on the area would cascade
+    // into every label of the page and fight with their palettes.
+    KaScrollbarUtils::applyScrollBarStyle(area, KaScrollbarEnum::Small);
 }
 
 } // namespace GalleryUtils
