@@ -1,0 +1,77 @@
+#include "katextbrowser.h"
+
+#include <buttontestutils.h>
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
+
+using namespace ButtonTest;
+
+namespace {
+
+// The colour the first link of `browser` is drawn in.
+QColor linkColour(const QTextBrowser& browser) {
+    for (QTextBlock block = browser.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            if (it.fragment().charFormat().isAnchor())
+                return it.fragment().charFormat().foreground().color();
+        }
+    }
+    return QColor();
+}
+
+} // namespace
+
+class tst_KaTextBrowser : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { switchTheme("light"); }
+
+    void linksOnlyReport_data() {
+        QTest::addColumn<bool>("keyboard");
+        QTest::newRow("click") << false;
+        QTest::newRow("tab and enter") << true;
+    }
+    void linksOnlyReport() {
+        QFETCH(bool, keyboard);
+        KaTextBrowser browser;
+        browser.resize(300, 120);
+        browser.setHtml(QStringLiteral("<p><a href=\"https://example.com/notes\">notes</a> and more</p>"));
+        browser.show();
+        QApplication::setActiveWindow(&browser);
+        QVERIFY(QTest::qWaitForWindowActive(&browser));
+        QSignalSpy clicked(&browser, &QTextBrowser::anchorClicked);
+        if (keyboard) {
+            browser.setFocus();
+            QTest::keyClick(&browser, Qt::Key_Tab);
+            QTest::keyClick(&browser, Qt::Key_Return);
+        } else {
+            const QRect link = browser.cursorRect(QTextCursor(browser.document()->findBlockByNumber(0)));
+            QTest::mouseClick(browser.viewport(), Qt::LeftButton, {}, link.center() + QPoint(8, 0));
+        }
+        QTRY_COMPARE(clicked.count(), 1);
+        QCOMPARE(clicked.first().first().toUrl(), QUrl(QStringLiteral("https://example.com/notes")));
+        // Still showing the same text: nothing was opened.
+        QVERIFY(browser.toPlainText().startsWith(QLatin1String("notes and more")));
+        QVERIFY(browser.source().isEmpty());
+    }
+
+    void themeSwitch() {
+        KaTextBrowser browser;
+        browser.resize(200, 80);
+        browser.setHtml(QStringLiteral("<a href=\"x:y\">link</a>"));
+        QTRY_COMPARE(linkColour(browser), colorOf("button-hyperlink-text"));
+        const QColor light = rendered(&browser).pixelColor(0, 40);
+        QCOMPARE(light, colorOf("separator-primary"));
+        switchTheme("dark");
+        QCoreApplication::processEvents();
+        QCOMPARE(rendered(&browser).pixelColor(0, 40), colorOf("separator-primary", BzThemeUtils::Dark));
+        QCOMPARE(linkColour(browser), colorOf("button-hyperlink-text", BzThemeUtils::Dark));
+        QCOMPARE(browser.palette().color(QPalette::Text), colorOf("label-primary-text", BzThemeUtils::Dark));
+    }
+};
+
+QTEST_MAIN(tst_KaTextBrowser)
+#include "tst_katextbrowser.moc"
