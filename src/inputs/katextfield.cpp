@@ -114,7 +114,6 @@ void KaTextField::init(KaTextFieldEnum::Style style, KaTextFieldEnum::Size size)
     m_edit->installEventFilter(this);
     m_frame->setFocusProxy(m_edit);
     setFocusProxy(m_edit);
-    setFocusPolicy(Qt::StrongFocus);
 
     m_searchIcon = new KaSvgLabel(m_frame);
     m_searchIcon->setSvgIcon(QLatin1String(kSearchIcon));

@@ -186,7 +186,9 @@ class Walker:
             self.counts["toggles"] += 1
         elif role in self.buttons and self.offers_toggle(node) and not states.contains(p.STATE_CHECKABLE):
             self.faults.append("toggle that reads as a plain button: " + where)
-        if role in self.silent and count == 0 and not name and not (node.description or "").strip():
+        # A text view's viewport is Qt's own child; the text around it reads the content.
+        in_text = bool(ancestors) and ancestors[-1][1] in (p.ROLE_TEXT, p.ROLE_ENTRY, p.ROLE_LABEL)
+        if role in self.silent and count == 0 and not name and not in_text and not (node.description or "").strip():
             extents = node.queryComponent().getExtents(p.DESKTOP_COORDS)
             if extents.width * extents.height >= SILENT_AREA:
                 self.faults.append("%dx%d px painted with nothing to read: %s"
