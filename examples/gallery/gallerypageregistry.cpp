@@ -4,6 +4,7 @@
 #include "focuspage.h"
 #include "foundationpage.h"
 #include "iconspage.h"
+#include "navigationpage.h"
 #include "popupspage.h"
 #include "tokenspage.h"
 
@@ -23,6 +24,8 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
         {QStringLiteral("popups"), QT_TRANSLATE_NOOP("GalleryPages", "Labels and popups"),
          &create<PopupsPage>},
         {QStringLiteral("buttons"), QT_TRANSLATE_NOOP("GalleryPages", "Buttons"), &create<ButtonsPage>},
+        {QStringLiteral("navigation"), QT_TRANSLATE_NOOP("GalleryPages", "Navigation"),
+         &create<NavigationPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };

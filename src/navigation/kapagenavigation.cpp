@@ -47,11 +47,9 @@ void KaPageNavigation::clearChildren() {
     delete layout();
 }
 
-KaRoundButton* KaPageNavigation::createArrow(const char* objectName, const QString& icon,
-                                             void (KaPageNavigation::*clicked)()) {
+KaRoundButton* KaPageNavigation::createArrow(const char* objectName, void (KaPageNavigation::*clicked)()) {
     auto* button = new KaRoundButton(this, KaButtonEnum::Ghost, KaButtonEnum::ExtraSmall);
     button->setObjectName(QLatin1String(objectName));
-    button->setLeftIcon(icon);
     connect(button, &QAbstractButton::clicked, this, [this, clicked] {
         ++m_forwarding;
         const QPointer<KaPageNavigation> self(this);
@@ -66,13 +64,12 @@ void KaPageNavigation::initialize() {
     setObjectName(QStringLiteral("KaPageNavigation"));
     clearChildren();
 
-    m_previous = createArrow("navigatePreviousButton", QStringLiteral("qrc:/Resources/arrow-left-bold.svg"),
-                             &KaPageNavigation::navigatePreviousButtonClicked);
+    m_previous = createArrow("navigatePreviousButton", &KaPageNavigation::navigatePreviousButtonClicked);
     m_dots = new NavigationDotsWidget(m_pageCount, this);
     m_dots->setObjectName(QStringLiteral("navigateDotsWidget"));
     m_dots->setPageIndex(m_pageIndex);
-    m_next = createArrow("navigateNextButton", QStringLiteral("qrc:/Resources/arrow-right-bold.svg"),
-                         &KaPageNavigation::navigateNextButtonClicked);
+    m_next = createArrow("navigateNextButton", &KaPageNavigation::navigateNextButtonClicked);
+    updateArrowIcons();
     applyAccessibility();
     updateArrows();
 
@@ -131,8 +128,21 @@ void KaPageNavigation::applyAccessibility() {
     apply(m_previous, m_previousAccessibility, tr("Previous page"));
 }
 
+void KaPageNavigation::updateArrowIcons() {
+    // The arrows point away from the dots, also in right-to-left layouts.
+    const bool rtl = layoutDirection() == Qt::RightToLeft;
+    const QString left = QStringLiteral("qrc:/Resources/arrow-left-bold.svg");
+    const QString right = QStringLiteral("qrc:/Resources/arrow-right-bold.svg");
+    if (m_previous)
+        m_previous->setLeftIcon(rtl ? right : left);
+    if (m_next)
+        m_next->setLeftIcon(rtl ? left : right);
+}
+
 void KaPageNavigation::changeEvent(QEvent* event) {
     BzWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         applyAccessibility();
+    else if (event->type() == QEvent::LayoutDirectionChange)
+        updateArrowIcons();
 }

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "bzwidget.h"
+#include "karoundbutton.h"
 #include "karvex_export.h"
+#include "navigationdotswidget.h"
 
 #include <QPointer>
-
-class KaRoundButton;
-class NavigationDotsWidget;
 
 // A pager strip: a round "previous" button, a row of dots with the current
 // page enlarged, and a round "next" button. The page index is 1-based. The
@@ -55,8 +54,8 @@ protected:
 private:
     void initialize();
     void clearChildren();
-    KaRoundButton* createArrow(const char* objectName, const QString& icon,
-                               void (KaPageNavigation::*clicked)());
+    KaRoundButton* createArrow(const char* objectName, void (KaPageNavigation::*clicked)());
+    void updateArrowIcons();
     void updateArrows();
     void applyAccessibility();
 

@@ -108,6 +108,10 @@ KaTabItem::KaTabItem(QWidget* parent)
     setAnchorPadding(0);
     connect(this, &IKaButton::refreshConfig, this, &KaTabItem::refresh);
     connect(this, &QAbstractButton::clicked, this, &KaTabItem::onClicked);
+    connect(this, &BzSvgAnchorButton::anchorClicked, this, [this] {
+        if (showsClose())
+            Q_EMIT closeRequested();
+    });
     refresh();
 }
 

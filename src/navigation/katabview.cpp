@@ -297,7 +297,8 @@ void KaTabView::relayout() {
                                                QRect(inset, 0, qMax(0, width() - 2 * inset), height())));
     const int arrowY = (height() - m_back->height()) / 2;
     m_back->move(
-        QStyle::visualRect(layoutDirection(), rect(), QRect(QPoint(0, arrowY), m_back->QWidget::size())).topLeft());
+        QStyle::visualRect(layoutDirection(), rect(), QRect(QPoint(0, arrowY), m_back->QWidget::size()))
+            .topLeft());
     m_forward->move(QStyle::visualRect(layoutDirection(), rect(),
                                        QRect(QPoint(width() - arrowW, arrowY), m_forward->QWidget::size()))
                         .topLeft());

@@ -88,7 +88,7 @@ KaTitleBar::~KaTitleBar() = default;
 QString KaTitleBar::title() const {
     if (!m_ownTitle.isEmpty())
         return m_ownTitle;
-    return m_window && m_window != this ? m_window->windowTitle() : QString();
+    return m_window ? m_window->windowTitle() : QString();
 }
 
 void KaTitleBar::setTitle(const QString& title) {
@@ -101,7 +101,7 @@ void KaTitleBar::setTitle(const QString& title) {
 QIcon KaTitleBar::icon() const {
     if (!m_ownIcon.isNull())
         return m_ownIcon;
-    return m_window && m_window != this ? m_window->windowIcon() : QIcon();
+    return m_window ? m_window->windowIcon() : QIcon();
 }
 
 void KaTitleBar::setIcon(const QIcon& icon) {
@@ -127,7 +127,8 @@ void KaTitleBar::setSize(KaButtonEnum::Size size) {
 }
 
 QSize KaTitleBar::sizeHint() const {
-    return QSize(BzWidget::sizeHint().width(), m_close->sizeHint().height());
+    // The window buttons fix their height; the bar is as high.
+    return QSize(BzWidget::sizeHint().width(), m_close->minimumHeight());
 }
 
 QRect KaTitleBar::iconRect() const {
@@ -150,14 +151,35 @@ void KaTitleBar::updateTitle() {
     Q_EMIT titleChanged(text);
 }
 
+QWidget* KaTitleBar::targetWindow() const {
+    if (m_target)
+        return m_target;
+    // A bar on its own is no window's title bar.
+    QWidget* own = window();
+    return own != this ? own : nullptr;
+}
+
+void KaTitleBar::setTargetWindow(QWidget* window) {
+    if (window == m_target)
+        return;
+    m_target = window;
+    for (KaTitleBarButton* button : {m_minimize, m_maximize, m_close})
+        button->setTargetWindow(window);
+    watchWindow();
+    Q_EMIT targetWindowChanged(window);
+}
+
 void KaTitleBar::watchWindow() {
-    QWidget* window = this->window();
+    QWidget* window = targetWindow();
+    const bool target = window != nullptr;
+    for (KaTitleBarButton* button : {m_minimize, m_maximize, m_close})
+        button->setEnabled(target);
     if (window == m_window)
         return;
     if (m_window)
         m_window->removeEventFilter(this);
     m_window = window;
-    if (window && window != this)
+    if (window)
         window->installEventFilter(this);
     updateTitle();
 }

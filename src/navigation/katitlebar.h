@@ -15,7 +15,8 @@ class KaTitleBarButton;
 // the library's minimise, maximise/restore and close buttons, which act on
 // the bar's window. Dragging the bar moves the window (through the
 // platform's own move, so snapping and multi-screen moves work); a double
-// click maximises or restores it. Icon and title follow the window's
+// click maximises or restores it. A bar that is a window of its own has
+// nothing to act on until it is given a target window. Icon and title follow the window's
 // unless set here.
 //
 // Screen readers get a title bar named after the title, with the three
@@ -25,6 +26,7 @@ class KARVEX_EXPORT KaTitleBar : public BzWidget {
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
     Q_PROPERTY(QIcon icon READ icon WRITE setIcon NOTIFY iconChanged)
     Q_PROPERTY(KaButtonEnum::Size size READ size WRITE setSize NOTIFY sizeChanged)
+    Q_PROPERTY(QWidget* targetWindow READ targetWindow WRITE setTargetWindow NOTIFY targetWindowChanged)
 public:
     explicit KaTitleBar(QWidget* parent = nullptr);
     ~KaTitleBar() override;
@@ -43,6 +45,12 @@ public:
     KaButtonEnum::Size size() const { return m_size; }
     void setSize(KaButtonEnum::Size size);
 
+    // The window the bar acts on and follows: the one set, else the bar's
+    // own window. Null restores the default. A preview of a window can so
+    // sit anywhere.
+    QWidget* targetWindow() const;
+    void setTargetWindow(QWidget* window);
+
     KaTitleBarButton* minimizeButton() const { return m_minimize; }
     KaTitleBarButton* maximizeButton() const { return m_maximize; }
     KaTitleBarButton* closeButton() const { return m_close; }
@@ -53,6 +61,7 @@ Q_SIGNALS:
     void titleChanged(const QString& title);
     void iconChanged();
     void sizeChanged(KaButtonEnum::Size size);
+    void targetWindowChanged(QWidget* window);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -72,6 +81,8 @@ private:
     KaTitleBarButton* m_minimize = nullptr;
     KaTitleBarButton* m_maximize = nullptr;
     KaTitleBarButton* m_close = nullptr;
+    QPointer<QWidget> m_target;
+    // The window watched for title and icon changes.
     QPointer<QWidget> m_window;
     QString m_ownTitle;
     QIcon m_ownIcon;
