@@ -173,6 +173,24 @@ private Q_SLOTS:
                  QStringLiteral("Previous photo"));
     }
 
+    // The strip paints only through its children; the current dot follows
+    // the theme with them.
+    void followsTheme() {
+        switchTheme("light");
+        KaPageNavigation navigation;
+        navigation.setPageCount(5);
+        navigation.setPageIndex(1);
+        QVERIFY(shown(navigation));
+        // The first dot is current: 8 - 2 px into the dots.
+        const QPoint dot = navigation.dotsWidget()->geometry().topLeft() + QPoint(6, 12);
+        QCOMPARE(pixelAt(&navigation, dot).rgb(), colorOf("spinner-progress-cursor").rgb());
+        switchTheme("highContrast");
+        QTRY_COMPARE(pixelAt(&navigation, dot).rgb(), colorOf("spinner-progress-cursor").rgb());
+        QVERIFY(colorOf("spinner-progress-cursor", BzThemeUtils::Light) !=
+                colorOf("spinner-progress-cursor"));
+        switchTheme("light");
+    }
+
     // The arrows point away from the dots in either direction.
     void mirrored() {
         KaPageNavigation navigation;

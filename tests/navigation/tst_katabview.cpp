@@ -264,6 +264,19 @@ private Q_SLOTS:
         QCOMPARE(accessible(view.tabAt(0))->text(QAccessible::Description), QStringLiteral("1 of 4"));
     }
 
+    void followsTheme() {
+        switchTheme("light");
+        Shown shown(3);
+        QVERIFY(shown.show());
+        shown.view->setCurrentIndex(1);
+        const QPoint face = inView(shown.view, shown.view->tabAt(1)).topLeft() + QPoint(4, 10);
+        QCOMPARE(pixelAt(shown.view, face).rgb(), colorOf("tab-active-background").rgb());
+        switchTheme("dark");
+        QTRY_COMPARE(pixelAt(shown.view, face).rgb(), colorOf("tab-active-background").rgb());
+        QVERIFY(colorOf("tab-active-background", BzThemeUtils::Light) != colorOf("tab-active-background"));
+        switchTheme("light");
+    }
+
     // Arrow keys move the keyboard focus ring along with the selection.
     void focusRing() {
         QApplication::setStyle(new KaFocusStyle("global-focus-outline", "textinput-background", false,
