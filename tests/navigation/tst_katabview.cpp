@@ -203,8 +203,8 @@ private Q_SLOTS:
         view.setCurrentIndex(4);
         QTest::ignoreMessage(QtWarningMsg, "KaTabView: no tab at index -1 (count 1)");
         view.removeTab(-1);
-        QTest::ignoreMessage(QtWarningMsg, "KaTabView: 17 is not a KaButtonEnum::Size; ignored");
-        view.setSize(KaButtonEnum::Size(17));
+        QTest::ignoreMessage(QtWarningMsg, "KaTabView: 7 is not a KaButtonEnum::Size; ignored");
+        view.setSize(KaButtonEnum::Size(7));
         QCOMPARE(view.currentIndex(), 0);
         QCOMPARE(view.count(), 1);
         QVERIFY(!view.tabAt(3));
