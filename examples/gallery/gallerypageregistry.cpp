@@ -4,6 +4,7 @@
 #include "focuspage.h"
 #include "foundationpage.h"
 #include "iconspage.h"
+#include "navigationpage.h"
 #include "popupspage.h"
 #include "textinputpage.h"
 #include "tokenspage.h"
@@ -26,6 +27,8 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
         {QStringLiteral("buttons"), QT_TRANSLATE_NOOP("GalleryPages", "Buttons"), &create<ButtonsPage>},
         {QStringLiteral("textinput"), QT_TRANSLATE_NOOP("GalleryPages", "Text input"),
          &create<TextInputPage>},
+        {QStringLiteral("navigation"), QT_TRANSLATE_NOOP("GalleryPages", "Navigation"),
+         &create<NavigationPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };

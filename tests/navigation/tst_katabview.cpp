@@ -1,0 +1,303 @@
+#include "buttontestutils.h"
+#include "customfocusoverlay.h"
+#include "kafocusstyle.h"
+#include "katabitem.h"
+#include "katabview.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QSignalSpy>
+#include <QStyleFactory>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <memory>
+
+using namespace ButtonTest;
+
+namespace {
+
+struct Shown {
+    explicit Shown(int tabs, int width = 600) {
+        auto* layout = new QVBoxLayout(&window);
+        view = new KaTabView;
+        layout->addWidget(view);
+        layout->addStretch(1);
+        for (int i = 0; i < tabs; ++i)
+            view->addTab(QStringLiteral("Tab %1").arg(i + 1));
+        window.resize(width, 120);
+    }
+    bool show() {
+        window.show();
+        return QTest::qWaitForWindowExposed(&window);
+    }
+    QWidget window;
+    KaTabView* view = nullptr;
+};
+
+QAccessibleInterface* accessible(QObject* object) {
+    return QAccessible::queryAccessibleInterface(object);
+}
+
+// The tab's rectangle in the view's coordinates.
+QRect inView(const KaTabView* view, const KaTabItem* tab) {
+    return QRect(tab->mapTo(view, QPoint()), tab->QWidget::size());
+}
+
+QRect viewport(const KaTabView* view) {
+    return view->findChild<QWidget*>(QStringLiteral("tabViewport"))->geometry();
+}
+
+} // namespace
+
+class tst_KaTabView : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void cleanup() {
+        qApp->setProperty("isKeyboardFocus", QVariant());
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    }
+
+    void firstTabBecomesCurrent() {
+        KaTabView view;
+        QCOMPARE(view.currentIndex(), -1);
+        QSignalSpy current(&view, &KaTabView::currentChanged);
+        view.addTab(QStringLiteral("Chat"));
+        view.addTab(QStringLiteral("Calls"));
+        QCOMPARE(current.count(), 1);
+        QCOMPARE(view.currentIndex(), 0);
+        QVERIFY(view.tabAt(0)->isSelected());
+        QVERIFY(!view.tabAt(1)->isSelected());
+        // Inserted in front: the same tab stays current at its new index.
+        view.insertTab(0, QStringLiteral("Activity"));
+        QCOMPARE(view.currentIndex(), 1);
+        QCOMPARE(view.tabAt(1)->text(), QStringLiteral("Chat"));
+        QCOMPARE(current.last().at(0).toInt(), 1);
+    }
+
+    void clickSelects() {
+        Shown shown(4);
+        QVERIFY(shown.show());
+        QSignalSpy current(shown.view, &KaTabView::currentChanged);
+        QTest::mouseClick(shown.view->tabAt(2), Qt::LeftButton);
+        QCOMPARE(shown.view->currentIndex(), 2);
+        QCOMPARE(current.count(), 1);
+        QVERIFY(shown.view->tabAt(2)->isSelected());
+        QVERIFY(!shown.view->tabAt(0)->isSelected());
+        // Only the current tab is a Tab stop.
+        QCOMPARE(shown.view->tabAt(2)->focusPolicy(), Qt::TabFocus);
+        QCOMPARE(shown.view->tabAt(0)->focusPolicy(), Qt::NoFocus);
+    }
+
+    void keyboard_data() {
+        QTest::addColumn<int>("direction");
+        QTest::addColumn<int>("start");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("expected");
+        const int ltr = Qt::LeftToRight;
+        const int rtl = Qt::RightToLeft;
+        QTest::newRow("right") << ltr << 1 << int(Qt::Key_Right) << 2;
+        QTest::newRow("left") << ltr << 1 << int(Qt::Key_Left) << 0;
+        QTest::newRow("left at start") << ltr << 0 << int(Qt::Key_Left) << 0;
+        QTest::newRow("right at end") << ltr << 4 << int(Qt::Key_Right) << 4;
+        QTest::newRow("home") << ltr << 3 << int(Qt::Key_Home) << 0;
+        QTest::newRow("end") << ltr << 1 << int(Qt::Key_End) << 4;
+        QTest::newRow("rtl left") << rtl << 1 << int(Qt::Key_Left) << 2;
+        QTest::newRow("rtl right") << rtl << 1 << int(Qt::Key_Right) << 0;
+    }
+
+    void keyboard() {
+        QFETCH(int, direction);
+        QFETCH(int, start);
+        QFETCH(int, key);
+        QFETCH(int, expected);
+        Shown shown(5);
+        shown.window.setLayoutDirection(Qt::LayoutDirection(direction));
+        QVERIFY(shown.show());
+        shown.view->setCurrentIndex(start);
+        shown.view->setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(shown.view->tabAt(start)->hasFocus());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+        QCOMPARE(shown.view->currentIndex(), expected);
+        QTRY_VERIFY(shown.view->tabAt(expected)->hasFocus());
+        // A focused tab means a focused list for screen readers.
+        QVERIFY(accessible(shown.view)->state().focused);
+    }
+
+    void removal_data() {
+        QTest::addColumn<int>("current");
+        QTest::addColumn<int>("removed");
+        QTest::addColumn<int>("expected");
+        QTest::addColumn<QString>("expectedText");
+        QTest::newRow("current, the next takes its place") << 2 << 2 << 2 << QStringLiteral("Tab 4");
+        QTest::newRow("current and last") << 4 << 4 << 3 << QStringLiteral("Tab 4");
+        QTest::newRow("before current") << 3 << 1 << 2 << QStringLiteral("Tab 4");
+        QTest::newRow("after current") << 1 << 3 << 1 << QStringLiteral("Tab 2");
+    }
+
+    void removal() {
+        QFETCH(int, current);
+        QFETCH(int, removed);
+        QFETCH(int, expected);
+        QFETCH(QString, expectedText);
+        Shown shown(5);
+        QVERIFY(shown.show());
+        shown.view->setCurrentIndex(current);
+        shown.view->tabAt(current)->setFocus(Qt::TabFocusReason);
+        QSignalSpy spy(shown.view, &KaTabView::currentChanged);
+        shown.view->removeTab(removed);
+        QCOMPARE(shown.view->count(), 4);
+        QCOMPARE(shown.view->currentIndex(), expected);
+        QCOMPARE(spy.isEmpty(), current == expected && removed > current);
+        KaTabItem* tab = shown.view->tabAt(expected);
+        QCOMPARE(tab->text(), expectedText);
+        QVERIFY(tab->isSelected());
+        QTRY_VERIFY(tab->hasFocus());
+        QCOMPARE(tab->position(), expected + 1);
+        QCOMPARE(tab->positionCount(), 4);
+    }
+
+    void removeAll() {
+        KaTabView view;
+        view.addTab(QStringLiteral("Only"));
+        QSignalSpy spy(&view, &KaTabView::currentChanged);
+        view.removeTab(0);
+        QCOMPARE(view.currentIndex(), -1);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.last().at(0).toInt(), -1);
+        QVERIFY(!view.focusProxy());
+    }
+
+    // The host removes the tab from inside the close click.
+    void closedFromItsOwnCross() {
+        Shown shown(3);
+        shown.view->setTabsClosable(true);
+        connect(shown.view, &KaTabView::tabCloseRequested, shown.view, &KaTabView::removeTab);
+        QVERIFY(shown.show());
+        QPointer<KaTabItem> tab = shown.view->tabAt(1);
+        QTRY_VERIFY(!tab->anchorIconRect().isEmpty());
+        QTest::mouseClick(tab, Qt::LeftButton, {}, tab->anchorIconRect().center());
+        QCOMPARE(shown.view->count(), 2);
+        QTRY_VERIFY(!tab);
+        QCOMPARE(shown.view->currentIndex(), 0);
+    }
+
+    void closableOnlyWithoutSection() {
+        KaTabView view;
+        view.addTab(QStringLiteral("Chat"), QString(), KaTabEnum::SECTION_01);
+        view.addTab(QStringLiteral("Draft"));
+        QSignalSpy spy(&view, &KaTabView::tabsClosableChanged);
+        view.setTabsClosable(true);
+        view.setTabsClosable(true);
+        QCOMPARE(spy.count(), 1);
+        QVERIFY(!view.tabAt(0)->showsClose());
+        QVERIFY(view.tabAt(1)->showsClose());
+        view.addTab(QStringLiteral("Later"));
+        QVERIFY(view.tabAt(2)->showsClose());
+    }
+
+    void badIndices() {
+        KaTabView view;
+        view.addTab(QStringLiteral("Chat"));
+        QTest::ignoreMessage(QtWarningMsg, "KaTabView: no tab at index 4 (count 1)");
+        view.setCurrentIndex(4);
+        QTest::ignoreMessage(QtWarningMsg, "KaTabView: no tab at index -1 (count 1)");
+        view.removeTab(-1);
+        QTest::ignoreMessage(QtWarningMsg, "KaTabView: 7 is not a KaButtonEnum::Size; ignored");
+        view.setSize(KaButtonEnum::Size(7));
+        QCOMPARE(view.currentIndex(), 0);
+        QCOMPARE(view.count(), 1);
+        QVERIFY(!view.tabAt(3));
+        QCOMPARE(view.size(), KaButtonEnum::Normal);
+        // Out of range on insert appends.
+        QCOMPARE(view.insertTab(-5, QStringLiteral("End")), 1);
+    }
+
+    void overflowScrolls() {
+        Shown shown(10, 320);
+        QVERIFY(shown.show());
+        KaTabView* view = shown.view;
+        auto* back = view->findChild<QWidget*>(QStringLiteral("scrollBackButton"));
+        auto* forward = view->findChild<QWidget*>(QStringLiteral("scrollForwardButton"));
+        QTRY_VERIFY(view->isScrollable());
+        QVERIFY(back->isVisible() && forward->isVisible());
+        QVERIFY(!back->isEnabled());
+        QVERIFY(forward->isEnabled());
+
+        const int before = inView(view, view->tabAt(0)).x();
+        QTest::mouseClick(forward, Qt::LeftButton);
+        QVERIFY(inView(view, view->tabAt(0)).x() < before);
+        QVERIFY(back->isEnabled());
+
+        // The current tab is scrolled fully into view, up to the last one.
+        view->setCurrentIndex(9);
+        QVERIFY(viewport(view).contains(inView(view, view->tabAt(9))));
+        QVERIFY(!forward->isEnabled());
+        view->setCurrentIndex(0);
+        QVERIFY(viewport(view).contains(inView(view, view->tabAt(0))));
+
+        // Room for all: no arrows.
+        shown.window.resize(view->sizeHint().width() + 40, 120);
+        QTRY_VERIFY(!view->isScrollable());
+        QTRY_VERIFY(!forward->isVisible());
+        QCOMPARE(inView(view, view->tabAt(0)).x(), 0);
+    }
+
+    void accessibility() {
+        KaTabView view;
+        for (const char* text : {"Chat", "Calls", "Meetings", "Files", "Apps"})
+            view.addTab(QString::fromLatin1(text));
+        view.setCurrentIndex(1);
+        QAccessibleInterface* list = accessible(&view);
+        QCOMPARE(list->role(), QAccessible::PageTabList);
+        QVERIFY(!list->text(QAccessible::Name).isEmpty());
+        QCOMPARE(list->childCount(), 5);
+        QAccessibleInterface* second = list->child(1);
+        QCOMPARE(second->role(), QAccessible::PageTab);
+        QCOMPARE(second->text(QAccessible::Name), QStringLiteral("Calls"));
+        QCOMPARE(second->text(QAccessible::Description), QStringLiteral("2 of 5"));
+        QVERIFY(second->state().selected);
+        QVERIFY(!list->child(0)->state().selected);
+        QCOMPARE(second->parent(), list);
+        QCOMPARE(list->indexOfChild(second), 1);
+        view.removeTab(0);
+        QCOMPARE(accessible(view.tabAt(0))->text(QAccessible::Description), QStringLiteral("1 of 4"));
+    }
+
+    void followsTheme() {
+        switchTheme("light");
+        Shown shown(3);
+        QVERIFY(shown.show());
+        shown.view->setCurrentIndex(1);
+        const QPoint face = inView(shown.view, shown.view->tabAt(1)).topLeft() + QPoint(4, 10);
+        QCOMPARE(pixelAt(shown.view, face).rgb(), colorOf("tab-active-background").rgb());
+        switchTheme("dark");
+        QTRY_COMPARE(pixelAt(shown.view, face).rgb(), colorOf("tab-active-background").rgb());
+        QVERIFY(colorOf("tab-active-background", BzThemeUtils::Light) != colorOf("tab-active-background"));
+        switchTheme("light");
+    }
+
+    // Arrow keys move the keyboard focus ring along with the selection.
+    void focusRing() {
+        QApplication::setStyle(new KaFocusStyle("global-focus-outline", "textinput-background", false,
+                                                QStyleFactory::create(QStringLiteral("Fusion"))));
+        qApp->setProperty("isKeyboardFocus", true);
+        Shown shown(3);
+        QVERIFY(shown.show());
+        shown.view->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(shown.view->tabAt(0), Qt::Key_Right);
+        KaTabItem* tab = shown.view->tabAt(1);
+        QTRY_VERIFY(tab->hasFocus());
+        const QRect target(tab->mapTo(&shown.window, QPoint()), tab->QWidget::size());
+        QTRY_VERIFY([&] {
+            const auto overlays = shown.window.findChildren<CustomFocusOverlay*>();
+            for (const CustomFocusOverlay* overlay : overlays)
+                if (overlay->isVisible() && overlay->geometry().contains(target))
+                    return true;
+            return false;
+        }());
+    }
+};
+
+QTEST_MAIN(tst_KaTabView)
+#include "tst_katabview.moc"
