@@ -6,6 +6,7 @@
 #include "iconspage.h"
 #include "navigationpage.h"
 #include "popupspage.h"
+#include "selectionpage.h"
 #include "textinputpage.h"
 #include "tokenspage.h"
 
@@ -29,6 +30,7 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
          &create<TextInputPage>},
         {QStringLiteral("navigation"), QT_TRANSLATE_NOOP("GalleryPages", "Navigation"),
          &create<NavigationPage>},
+        {QStringLiteral("selection"), QT_TRANSLATE_NOOP("GalleryPages", "Selection"), &create<SelectionPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };

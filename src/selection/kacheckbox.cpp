@@ -1,0 +1,55 @@
+#include "kacheckbox.h"
+
+#include "kaselectionindicator_p.h"
+
+#include <QEvent>
+
+KaCheckBox::KaCheckBox(QWidget* parent)
+    : QCheckBox(parent)
+    , m_indicator(new KaSelectionIndicator(KaSelectionIndicator::Box)) {
+    setObjectName(QStringLiteral("CheckBox"));
+    setAttribute(Qt::WA_Hover);
+    setProperty("hasCustomRect", true);
+    setProperty("focusBorderRadius", 3.0);
+    setProperty("focusMargin", 3);
+    m_indicator->resolve(this);
+}
+
+KaCheckBox::KaCheckBox(const QString& text, QWidget* parent)
+    : KaCheckBox(parent) {
+    setText(text);
+}
+
+KaCheckBox::~KaCheckBox() = default;
+
+QSize KaCheckBox::sizeHint() const {
+    return m_indicator->sizeHint(this);
+}
+
+QSize KaCheckBox::minimumSizeHint() const {
+    return QSize(KaSelectionIndicator::kIndicator, sizeHint().height());
+}
+
+void KaCheckBox::onThemeChanged() {
+    m_indicator->resolve(this);
+    update();
+}
+
+void KaCheckBox::paintEvent(QPaintEvent*) {
+    const Qt::CheckState state = checkState();
+    const KaSelectionIndicator::Mark mark = state == Qt::Checked            ? KaSelectionIndicator::Check
+                                            : state == Qt::PartiallyChecked ? KaSelectionIndicator::Dash
+                                                                            : KaSelectionIndicator::NoMark;
+    m_indicator->paint(this, state != Qt::Unchecked, mark);
+}
+
+bool KaCheckBox::hitButton(const QPoint& pos) const {
+    return rect().contains(pos);
+}
+
+void KaCheckBox::changeEvent(QEvent* event) {
+    // Another "themeType" may be above the box now.
+    if (event->type() == QEvent::ParentChange)
+        m_indicator->resolve(this);
+    QCheckBox::changeEvent(event);
+}
