@@ -74,9 +74,9 @@ void KaEmojiLabel::setText(const QString& text) {
 
 void KaEmojiLabel::rebuild() {
     m_emojiImages = 0;
-    if (m_forcedRichText) {
-        m_forcedRichText = false;
-        setTextFormat(Qt::PlainText);
+    if (m_formatBeforeImages >= 0) {
+        setTextFormat(Qt::TextFormat(m_formatBeforeImages));
+        m_formatBeforeImages = -1;
     }
     // The one pass plain text pays.
     if (!KaEmojiUtils::mayContainEmoji(m_text)) {
@@ -98,9 +98,10 @@ void KaEmojiLabel::rebuild() {
         if (path.isEmpty())
             continue;
         appendText(done, cluster.start);
-        html += QStringLiteral("<img src=\"%1\" width=\"%2\" height=\"%2\" style=\"vertical-align: middle\">")
-                    .arg(path)
-                    .arg(side);
+        html +=
+            QStringLiteral("<img src=\"qrc%1\" width=\"%2\" height=\"%2\" style=\"vertical-align: middle\">")
+                .arg(path)
+                .arg(side);
         done = cluster.start + cluster.length;
         ++m_emojiImages;
     }
@@ -111,8 +112,10 @@ void KaEmojiLabel::rebuild() {
     appendText(done, int(m_text.size()));
     if (!rich)
         html = QStringLiteral("<span style=\"white-space: pre-wrap\">%1</span>").arg(html);
-    if (textFormat() == Qt::PlainText) {
-        m_forcedRichText = true;
+    // Shown as markup (KaLabel measures rich text as a document); the
+    // caller's format comes back with text that has no pictures.
+    if (textFormat() != Qt::RichText) {
+        m_formatBeforeImages = int(textFormat());
         setTextFormat(Qt::RichText);
     }
     QLabel::setText(html);
@@ -132,7 +135,7 @@ void KaEmojiLabel::addImageResources() {
     for (const KaEmojiUtils::Cluster& cluster : KaEmojiUtils::clusters(m_text)) {
         const QString path = KaEmojiUtils::imagePath(cluster.key);
         if (!path.isEmpty())
-            document->addResource(QTextDocument::ImageResource, QUrl::fromEncoded(path.toUtf8()),
+            document->addResource(QTextDocument::ImageResource, QUrl(QLatin1String("qrc") + path),
                                   KaEmojiUtils::image(path, QSize(side, side), ratio));
     }
 }

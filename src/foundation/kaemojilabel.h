@@ -41,6 +41,6 @@ private:
     QString m_text;
     // Images in the shown text; 0 means QLabel shows m_text as it is.
     int m_emojiImages = 0;
-    // Plain text shown through markup while it has pictures.
-    bool m_forcedRichText = false;
+    // The caller's text format while pictures force rich text, else -1.
+    int m_formatBeforeImages = -1;
 };

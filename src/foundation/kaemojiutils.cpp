@@ -52,7 +52,7 @@ QString keyOf(QStringView sequence) {
     for (char32_t c : sequence.toUcs4()) {
         if (!key.isEmpty())
             key += QLatin1Char('-');
-        key += QString::number(uint(c), 16);
+        key += QString::number(uint(c), 16).rightJustified(4, QLatin1Char('0'));
     }
     return key;
 }

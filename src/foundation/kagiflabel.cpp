@@ -3,6 +3,7 @@
 #include "kaconfig.h"
 
 #include <QEvent>
+#include <QImageReader>
 #include <QMovie>
 #include <QPainter>
 #include <QStyle>
@@ -26,8 +27,9 @@ void KaGifLabel::setFileName(const QString& fileName) {
         // QMovie reads resources as ":/…" only.
         const QString path = fileName.startsWith(QLatin1String("qrc:/")) ? fileName.mid(3) : fileName;
         auto* movie = new QMovie(path, QByteArray(), this);
-        if (movie->isValid() && movie->jumpToFrame(0)) {
-            movie->setCacheMode(QMovie::CacheAll);
+        movie->setCacheMode(QMovie::CacheAll);
+        // A readable header is not enough: the first frame must decode.
+        if (movie->isValid() && !QImageReader(path).read().isNull() && movie->jumpToFrame(0)) {
             connect(movie, &QMovie::frameChanged, this, [this](int frame) {
                 update();
                 Q_EMIT frameChanged(frame);
