@@ -5,6 +5,7 @@
 #include "foundationpage.h"
 #include "iconspage.h"
 #include "popupspage.h"
+#include "textinputpage.h"
 #include "tokenspage.h"
 
 #include <QCoreApplication>
@@ -23,6 +24,8 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
         {QStringLiteral("popups"), QT_TRANSLATE_NOOP("GalleryPages", "Labels and popups"),
          &create<PopupsPage>},
         {QStringLiteral("buttons"), QT_TRANSLATE_NOOP("GalleryPages", "Buttons"), &create<ButtonsPage>},
+        {QStringLiteral("textinput"), QT_TRANSLATE_NOOP("GalleryPages", "Text input"),
+         &create<TextInputPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };

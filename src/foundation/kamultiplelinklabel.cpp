@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QStyle>
 #include <QStyleOptionFocusRect>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -248,8 +249,11 @@ QString KaMultipleLinkLabel::linkPositionText(int index) const {
 void KaMultipleLinkLabel::layoutFor(int width) const {
     QTextOption option = m_document->defaultTextOption();
     option.setWrapMode(wordWrap() ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
-    option.setAlignment(Qt::Alignment(int(alignment() & Qt::AlignHorizontal_Mask)));
-    option.setTextDirection(layoutDirection());
+    // Like QLabel: the text's own direction orders it, the layout direction
+    // decides which side it is aligned to.
+    option.setAlignment(QStyle::visualAlignment(layoutDirection(), alignment() & Qt::AlignHorizontal_Mask) |
+                        Qt::AlignAbsolute);
+    option.setTextDirection(Qt::LayoutDirectionAuto);
     if (option.wrapMode() != m_document->defaultTextOption().wrapMode() ||
         option.alignment() != m_document->defaultTextOption().alignment() ||
         option.textDirection() != m_document->defaultTextOption().textDirection())
@@ -522,6 +526,9 @@ void KaMultipleLinkLabel::changeEvent(QEvent* event) {
         break;
     case QEvent::ParentChange:
         refreshColours();
+        break;
+    case QEvent::LayoutDirectionChange:
+        update();
         break;
     default:
         break;
