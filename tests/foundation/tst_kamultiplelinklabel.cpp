@@ -36,16 +36,6 @@ struct Form {
     }
 };
 
-// The most opaque pixel's colour inside `area`.
-QColor strongest(const QImage& image, const QRect& area) {
-    QColor best(0, 0, 0, 0);
-    for (int y = area.top(); y <= area.bottom(); ++y)
-        for (int x = area.left(); x <= area.right(); ++x)
-            if (image.pixelColor(x, y).alpha() > best.alpha())
-                best = image.pixelColor(x, y);
-    return best;
-}
-
 QColor linkColour(BzThemeUtils::AppThemeType type) {
     return BzThemeUtils::getColorSet(KaColorTokenUtils::tokenToString(Karvox::hyperlink_accent_text), type)
         .normal();
@@ -209,13 +199,14 @@ private Q_SLOTS:
         KaMultipleLinkLabel label(kText);
         label.resize(label.sizeHint());
         const QRect link = label.linkRect(0);
-        QCOMPARE(strongest(BzTest::paint(label), link).rgb(), linkColour(BzThemeUtils::Light).rgb());
+        QCOMPARE(BzTest::strongestIn(BzTest::paint(label), link).rgb(),
+                 linkColour(BzThemeUtils::Light).rgb());
         const QRect text(0, 0, link.left() - 2, label.height());
-        QCOMPARE(strongest(BzTest::paint(label), text).rgb(),
+        QCOMPARE(BzTest::strongestIn(BzTest::paint(label), text).rgb(),
                  BzTest::set("label-primary-text").normal().rgb());
         BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
-        QCOMPARE(strongest(BzTest::paint(label), link).rgb(), linkColour(BzThemeUtils::Dark).rgb());
-        QCOMPARE(strongest(BzTest::paint(label), text).rgb(),
+        QCOMPARE(BzTest::strongestIn(BzTest::paint(label), link).rgb(), linkColour(BzThemeUtils::Dark).rgb());
+        QCOMPARE(BzTest::strongestIn(BzTest::paint(label), text).rgb(),
                  BzThemeUtils::getColorSet("label-primary-text", BzThemeUtils::Dark).normal().rgb());
     }
 };
