@@ -9,7 +9,9 @@
 // given, and selections copy as that text.
 //
 // Text without emoji costs what a KaLabel costs: one pass over the text
-// decides, and nothing else is created.
+// decides, and nothing else is created. Set the text through this class
+// (setText or the "text" property): QLabel::setText on a base pointer shows
+// the text without pictures.
 class KARVEX_EXPORT KaEmojiLabel : public KaLabel {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)

@@ -18,7 +18,8 @@ class QTextDocument;
 // pressed states included) and are underlined; the current link gets the
 // library's focus ring when focus came from the keyboard. Screen readers
 // see every link as a child with its position ("link 2 of 3"), and moving
-// between links announces it.
+// between links announces it. The label paints its own document: set the
+// text through this class (setText or the "text" property).
 class KARVEX_EXPORT KaMultipleLinkLabel : public KaLabel {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
