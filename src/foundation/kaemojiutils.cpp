@@ -136,6 +136,9 @@ QString imagePath(const QString& key) {
         if (!path.isEmpty() && !exists(path))
             path.clear();
     }
+    // Bounded like the base layer's tables: text can name endless sequences.
+    if (paths.size() >= 1024)
+        paths.clear();
     paths.insert(key, path);
     return path;
 }
@@ -148,6 +151,7 @@ bool isImageValid(const QString& path) {
     const bool ok = !path.isEmpty() && QSvgRenderer(path).isValid();
     if (!ok)
         qWarning("KaEmojiUtils: cannot read the emoji image \"%s\"", qPrintable(path));
+    // Asked for the paths imagePath() found: as many as there are images.
     valid.insert(path, ok);
     return ok;
 }

@@ -447,7 +447,9 @@ void KaMultipleLinkLabel::focusInEvent(QFocusEvent* event) {
         m_current = target;
         Q_EMIT currentLinkChanged(target);
     }
-    announceCurrent();
+    // A click announces the link it lands on when it is released.
+    if (event->reason() != Qt::MouseFocusReason)
+        announceCurrent();
     update();
 }
 
