@@ -18,6 +18,8 @@ void KaAnnounceLabel::setText(const QString& text) {
     const bool rich =
         textFormat() == Qt::RichText || (textFormat() == Qt::AutoText && Qt::mightBeRichText(text));
     const QString spoken = rich ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
-    if (!spoken.trimmed().isEmpty())
+    // Text set before the label shows (or while it is hidden) is read when
+    // users reach it, not out of nowhere.
+    if (isVisible() && !spoken.trimmed().isEmpty())
         KarvexUtils::announce(this, spoken);
 }

@@ -4,8 +4,8 @@
 
 // A KaLabel for status texts ("Saved", "3 results"): every change of its
 // text is read out by screen readers through KarvexUtils::announce, so
-// users hear it without moving to the label. Setting the same text again
-// or clearing it announces nothing.
+// users hear it without moving to the label. Setting the same text again,
+// clearing it, or changing it while the label is hidden announces nothing.
 class KARVEX_EXPORT KaAnnounceLabel : public KaLabel {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)

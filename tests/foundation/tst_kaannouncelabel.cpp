@@ -18,22 +18,27 @@ private Q_SLOTS:
     void announcesChanges_data() {
         QTest::addColumn<QStringList>("texts");
         QTest::addColumn<QStringList>("spoken");
+        QTest::addColumn<bool>("shown");
         QTest::newRow("one change") << QStringList{QStringLiteral("Saved")}
-                                    << QStringList{QStringLiteral("Saved")};
+                                    << QStringList{QStringLiteral("Saved")} << true;
         QTest::newRow("same text twice") << QStringList{QStringLiteral("Saved"), QStringLiteral("Saved")}
-                                         << QStringList{QStringLiteral("Saved")};
+                                         << QStringList{QStringLiteral("Saved")} << true;
         QTest::newRow("cleared") << QStringList{QStringLiteral("Saved"), QString(), QStringLiteral(" ")}
-                                 << QStringList{QStringLiteral("Saved")};
+                                 << QStringList{QStringLiteral("Saved")} << true;
         QTest::newRow("each change") << QStringList{QStringLiteral("1 result"), QStringLiteral("2 results")}
-                                     << QStringList{QStringLiteral("1 result"), QStringLiteral("2 results")};
-        QTest::newRow("rich text is read as text")
-            << QStringList{QStringLiteral("<b>3</b> results")} << QStringList{QStringLiteral("3 results")};
+                                     << QStringList{QStringLiteral("1 result"), QStringLiteral("2 results")}
+                                     << true;
+        QTest::newRow("rich text is read as text") << QStringList{QStringLiteral("<b>3</b> results")}
+                                                   << QStringList{QStringLiteral("3 results")} << true;
+        QTest::newRow("hidden") << QStringList{QStringLiteral("Saved")} << QStringList() << false;
     }
 
     void announcesChanges() {
         QFETCH(QStringList, texts);
         QFETCH(QStringList, spoken);
+        QFETCH(bool, shown);
         KaAnnounceLabel label;
+        label.setVisible(shown);
         const AccessibilityRecorder::RecordingScope recording;
         QSignalSpy changed(&label, &KaAnnounceLabel::textChanged);
         for (const QString& text : texts)
@@ -49,6 +54,7 @@ private Q_SLOTS:
 
     void designerTextProperty() {
         KaAnnounceLabel label;
+        label.show();
         const AccessibilityRecorder::RecordingScope recording;
         QVERIFY(label.setProperty("text", QStringLiteral("Text")));
         QCOMPARE(label.text(), QStringLiteral("Text"));
