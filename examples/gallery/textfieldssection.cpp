@@ -37,8 +37,8 @@ const FieldSpec kGrid[] = {
      QT_TRANSLATE_NOOP("TextFieldsSection", "Password, large")},
 };
 
+// The page gives the section its title; these head its parts after the first.
 const char* const kHeadings[] = {
-    QT_TRANSLATE_NOOP("TextFieldsSection", "Text fields"),
     QT_TRANSLATE_NOOP("TextFieldsSection", "States"),
     QT_TRANSLATE_NOOP("TextFieldsSection", "PIN entry"),
     QT_TRANSLATE_NOOP("TextFieldsSection", "Multi-line text"),
@@ -59,7 +59,6 @@ TextFieldsSection::TextFieldsSection(QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
 
-    column->addWidget(heading());
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(16);
     grid->setVerticalSpacing(12);

@@ -1,14 +1,10 @@
 #include "kaemojipushbutton.h"
 
-#include <QFile>
+#include "kaemojiutils.h"
+
 #include <QPainter>
-#include <QSvgRenderer>
 
 namespace {
-
-QString imagePath(const QString& codePoint) {
-    return QStringLiteral(":/emojis/%1.svg").arg(codePoint);
-}
 
 QString normalised(QString codePoint) {
     codePoint = codePoint.trimmed().toLower();
@@ -52,7 +48,8 @@ void KaEmojiPushButton::setCodePoint(const QString& codePoint) {
     if (value == m_codePoint)
         return;
     m_codePoint = value;
-    m_imageValid = !value.isEmpty() && QSvgRenderer(imagePath(value)).isValid();
+    const QString path = value.isEmpty() ? QString() : KaEmojiUtils::imagePath(value);
+    m_imageValid = !path.isEmpty() && KaEmojiUtils::isImageValid(path);
     m_image = QPixmap();
     updateGeometry();
     update();
@@ -156,16 +153,8 @@ void KaEmojiPushButton::paintDecorations(QPainter* painter, const Geometry& geom
     if (!m_imageValid || geometry.icon.isEmpty())
         return;
     const qreal ratio = paintRatio(painter, this);
-    if (m_image.isNull() || m_image.devicePixelRatio() != ratio) {
-        const QSize pixels(int(m_emojiSize.width() * ratio), int(m_emojiSize.height() * ratio));
-        QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        QPainter imagePainter(&image);
-        QSvgRenderer(imagePath(m_codePoint)).render(&imagePainter, QRectF(QPointF(0, 0), QSizeF(pixels)));
-        imagePainter.end();
-        m_image = QPixmap::fromImage(image);
-        m_image.setDevicePixelRatio(ratio);
-    }
+    if (m_image.isNull() || m_image.devicePixelRatio() != ratio)
+        m_image = KaEmojiUtils::image(KaEmojiUtils::imagePath(m_codePoint), m_emojiSize, ratio);
     painter->save();
     if (!(state & QStyle::State_Enabled))
         painter->setOpacity(0.4);

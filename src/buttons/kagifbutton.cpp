@@ -1,5 +1,7 @@
 #include "kagifbutton.h"
 
+#include "kaconfig.h"
+
 #include <QEvent>
 #include <QMovie>
 #include <QPainter>
@@ -120,8 +122,8 @@ int KaGifButton::frameCount() const {
 void KaGifButton::updatePlayback() {
     if (!m_movie)
         return;
-    const bool play =
-        isEnabled() && isVisible() && (m_playMode == PlayAlways || (m_playMode == PlayOnHover && m_hovered));
+    const bool play = isEnabled() && isVisible() && !KaConfig::reducedMotion() &&
+                      (m_playMode == PlayAlways || (m_playMode == PlayOnHover && m_hovered));
     if (play) {
         if (m_movie->state() == QMovie::Paused)
             m_movie->setPaused(false);
@@ -134,6 +136,10 @@ void KaGifButton::updatePlayback() {
         m_movie->stop();
     if (m_movie->currentFrameNumber() != 0)
         m_movie->jumpToFrame(0);
+}
+
+void KaGifButton::onReducedMotionChanged() {
+    updatePlayback();
 }
 
 void KaGifButton::updateScaledSize() {

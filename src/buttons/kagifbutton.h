@@ -13,8 +13,9 @@ class QMovie;
 // the leading icon's place, with optional text. The animation plays while
 // the pointer is over the button (PlayOnHover, the default) or whenever the
 // button is shown (PlayAlways); otherwise, and always while the button is
-// disabled, it rests on its first frame. Frames are decoded at the size the
-// image is painted at, once, and cached by the movie.
+// disabled or when the application asks for reduced motion
+// (KaConfig::setReducedMotion), it rests on its first frame. Frames are
+// decoded at the size the image is painted at, once, and cached by the movie.
 //
 // Defaults: style Secondary, size Large, no image, no text (a circle).
 // Without text the button needs an accessible name (setAccessibleName).
@@ -50,6 +51,10 @@ public:
     int frameCount() const;
 
     KaGifButtonConfig* gifConfig() const;
+
+public Q_SLOTS:
+    // KaConfig::setReducedMotion() changed: rest on the first frame or play.
+    void onReducedMotionChanged();
 
 Q_SIGNALS:
     void fileNameChanged(const QString& fileName);

@@ -14,4 +14,10 @@ KARVEX_EXPORT void setIsHighContrast(bool enabled);
 // colour tokens; only setIsHighContrast() writes it.
 KARVEX_EXPORT extern bool highContrast;
 
+// The user asked for less motion: animated images rest on their first
+// frame. A change reaches every widget that has an onReducedMotionChanged()
+// slot through a queued call, so hosts need not refresh anything.
+KARVEX_EXPORT void setReducedMotion(bool enabled);
+KARVEX_EXPORT bool reducedMotion();
+
 } // namespace KaConfig

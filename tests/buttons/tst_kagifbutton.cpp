@@ -107,6 +107,16 @@ private Q_SLOTS:
         QTRY_VERIFY(shown.button->isPlaying());
     }
 
+    void reducedMotion() {
+        Shown shown(KaGifButton::PlayAlways);
+        QTRY_VERIFY(shown.button->currentFrameNumber() > 0);
+        KaConfig::setReducedMotion(true);
+        QTRY_VERIFY(!shown.button->isPlaying());
+        QCOMPARE(shown.button->currentFrameNumber(), 0);
+        KaConfig::setReducedMotion(false);
+        QTRY_VERIFY(shown.button->isPlaying());
+    }
+
     void shapeFollowsText() {
         KaGifButton button(nullptr, KaButtonEnum::Secondary, KaButtonEnum::Large);
         button.setFileName(threeFrames());

@@ -63,6 +63,16 @@ inline QColor textColour(QWidget& widget) {
     return best;
 }
 
+// The colour of the most opaque pixel inside `area` of `image`.
+inline QColor strongestIn(const QImage& image, const QRect& area) {
+    QColor best(0, 0, 0, 0);
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            if (image.pixelColor(x, y).alpha() > best.alpha())
+                best = image.pixelColor(x, y);
+    return best;
+}
+
 // Bounding box, in device pixels, of the pixels exactly `color` (alpha aside).
 inline QRect boxOf(const QImage& image, const QColor& color) {
     QRect box;
