@@ -1,0 +1,592 @@
+#include "kapixmaploader.h"
+
+#include "bzsvgrenderer.h"
+#include "bzthememanager.h"
+#include "bzthemeutils.h"
+#include "fontutils.h"
+#include "kacolortokenutils.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QtDebug>
+
+#include <cmath>
+
+namespace {
+
+// Indexes of the renderers, in loading order.
+enum Icon : int {
+    MeetingsPresenceBadge,
+    Handset,
+    DndPresenceBadge,
+    BusyPresence,
+    RecentsPresenceBadge,
+    CameraPresence,
+    PtoPresence,
+    QuietHoursPresence,
+    ShareScreenBadge,
+    Unread,
+    Private,
+    Meetings,
+    Pause,
+    AwayCallingPresence,
+    Phone,
+    GenericDeviceVideoFilled,
+    ContentShare,
+    ShareScreen,
+    Chat,
+    GenericDeviceVideo,
+    NoDevices,
+    ParticipantUnknownRegular,
+    ParticipantUnknown,
+    Meet,
+    Coffee,
+    NoIcon = -1
+};
+
+using Size = KaAvatarEnum::Size;
+using Presence = KaAvatarEnum::Presence;
+using AvatarType = KaAvatarEnum::AvatarType;
+
+// Loaded in this order; KaPixmapLoader::Icon indexes it.
+const char* const kIconFiles[] = {
+    ":/Resources/meetings-presence-badge-filled.svg",
+    ":/Resources/handset-filled.svg",
+    ":/Resources/dnd-presence-badge-filled.svg",
+    ":/Resources/busy-presence-regular.svg",
+    ":/Resources/recents-presence-badge-filled.svg",
+    ":/Resources/camera-presence-filled.svg",
+    ":/Resources/pto-presence-filled.svg",
+    ":/Resources/quiet-hours-presence-filled.svg",
+    ":/Resources/share-screen-badge-filled.svg",
+    ":/Resources/unread-filled.svg",
+    ":/Resources/private-bold.svg",
+    ":/Resources/meetings-bold.svg",
+    ":/Resources/pause-filled.svg",
+    ":/Resources/away-calling-presence-filled.svg",
+    ":/Resources/phone-filled.svg",
+    ":/Resources/generic-device-video-filled.svg",
+    ":/Resources/content-share-bold.svg",
+    ":/Resources/share-screen-bold.svg",
+    ":/Resources/chat-filled.svg",
+    ":/Resources/generic-device-video-bold.svg",
+    ":/Resources/no-devices-bold.svg",
+    ":/Resources/participant-unknown-regular.svg",
+    ":/Resources/participant-unknown-bold.svg",
+    ":/Resources/meet-bold.svg",
+    ":/Resources/coffee-bold.svg",
+};
+
+struct SizeRow {
+    int avatar;
+    int badge;
+    double adjustX;
+    double adjustY;
+    int notchX;
+    int notchY;
+    int notchSide;
+    int fontPx;
+    int fontWeight;
+};
+
+// Indexed by KaAvatarEnum::Size. Medium's lighter initials are deliberate.
+const SizeRow kSizes[] = {
+    {24, 14, 13, 11, 12, 10, 16, 12, 600},      {32, 14, 21, 19, 20, 18, 16, 16, 600},
+    {48, 16, 35, 33, 34, 32, 18, 16, 400},      {64, 18, 45, 43, 44, 42, 22, 20, 600},
+    {72, 20, 49.5, 50.5, 48, 49, 24, 20, 600},  {88, 26, 58, 59, 56, 57, 32, 40, 600},
+    {124, 36, 82.5, 83.5, 80, 81, 44, 40, 600},
+};
+// What an unknown size gets.
+const SizeRow kFallbackSize = {32, 14, 0, 0, 0, 0, 0, 16, 600};
+
+// Colour groups of the presences: several presences share one colour.
+enum ColorGroup { NoColor, ActiveColor, MeetingColor, DndColor, QuietColor, AwayColor, ColorGroupCount };
+
+const Karvox::Token kGroupTokens[ColorGroupCount] = {
+    Karvox::avatar_presence_icon_active, // unused: no presence is transparent
+    Karvox::avatar_presence_icon_active, Karvox::avatar_presence_icon_meeting,
+    Karvox::avatar_presence_icon_dnd,    Karvox::avatar_presence_icon_quiet_hours,
+    Karvox::avatar_presence_icon_away,
+};
+
+struct PresenceRow {
+    int icon;
+    ColorGroup color;
+    bool square;
+};
+
+// Indexed by KaAvatarEnum::Presence.
+const PresenceRow kPresences[] = {
+    {NoIcon, NoColor, false},
+    {Unread, ActiveColor, false},
+    {CameraPresence, MeetingColor, true},
+    {MeetingsPresenceBadge, MeetingColor, true},
+    {Handset, MeetingColor, true},
+    {DndPresenceBadge, DndColor, false},
+    {BusyPresence, MeetingColor, false},
+    {ShareScreenBadge, DndColor, true},
+    {QuietHoursPresence, QuietColor, false},
+    {RecentsPresenceBadge, QuietColor, false},
+    {PtoPresence, QuietColor, false},
+    {Pause, QuietColor, false},
+    {Phone, QuietColor, true},
+    {GenericDeviceVideoFilled, QuietColor, true},
+    {AwayCallingPresence, AwayColor, true},
+};
+constexpr int kPresenceCount = int(sizeof(kPresences) / sizeof(kPresences[0]));
+constexpr int kSizeCount = int(sizeof(kSizes) / sizeof(kSizes[0]));
+
+const SizeRow& rowOf(int size) {
+    return size >= 0 && size < kSizeCount ? kSizes[size] : kFallbackSize;
+}
+
+int scaled(double value, double scale) {
+    return int(value * scale);
+}
+
+QColor colorOf(Karvox::Token token, BzThemeUtils::AppThemeType type = BzThemeUtils::Global) {
+    return BzThemeUtils::getColorSet(KaColorTokenUtils::tokenToString(token), type).normal();
+}
+
+QPixmap transparentPixmap(const QSize& size) {
+    QPixmap pixmap(size.expandedTo(QSize(1, 1)));
+    pixmap.fill(Qt::transparent);
+    return pixmap;
+}
+
+void smooth(QPainter& painter) {
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+}
+
+} // namespace
+
+KaPixmapLoader::KaPixmapLoader()
+    : KaPixmapLoader(nullptr, 1.0) {}
+
+KaPixmapLoader::KaPixmapLoader(QObject* parent, double devicePixelRatio)
+    : QObject(parent)
+    , m_devicePixelRatio(devicePixelRatio > 0 ? devicePixelRatio : 1.0) {
+    if (!(devicePixelRatio > 0))
+        qWarning("KaPixmapLoader: device pixel ratio %g is not positive, using 1", devicePixelRatio);
+    initRenderers();
+    updateAvatarColors();
+    createOverlayPixmaps(m_devicePixelRatio);
+}
+
+KaPixmapLoader::~KaPixmapLoader() = default;
+
+qint64 KaPixmapLoader::scaleKey(double scale) {
+    return qRound64(scale * 1000);
+}
+
+bool KaPixmapLoader::validSize(int size) {
+    return size >= 0 && size < kSizeCount;
+}
+
+void KaPixmapLoader::initRenderers() {
+    for (const char* file : kIconFiles)
+        m_renderers.emplace_back(new BzSvgRenderer(QString::fromLatin1(file), this));
+}
+
+void KaPixmapLoader::updateAvatarColors() {
+    m_themeGeneration = BzThemeManager::instance()->generation();
+    m_badgeBackground = colorOf(Karvox::avatar_presence_icon_background);
+    m_defaultBackground = colorOf(Karvox::avatar_color_avatar_background_default);
+    m_initialsColor = colorOf(Karvox::avatar_color_avatar_text_default);
+    for (int group = 0; group < ColorGroupCount; ++group) {
+        if (group == NoColor) {
+            m_presenceColors[group] = {QColor(Qt::transparent), QColor(Qt::transparent)};
+            continue;
+        }
+        m_presenceColors[group] = {colorOf(kGroupTokens[group], BzThemeUtils::Global),
+                                   colorOf(kGroupTokens[group], BzThemeUtils::Alternate)};
+    }
+    m_chatBubbleIcon = colorOf(Karvox::avatar_chat_bubble_icon_normal);
+    m_borderColor = colorOf(Karvox::modal_primary_background);
+    m_guestBackground = colorOf(Karvox::avatar_color_avatar_background_yellow);
+    m_unknownSpeakerBackground = colorOf(Karvox::avatar_color_avatar_background_slate);
+}
+
+int KaPixmapLoader::getAvatarPxSize(Size size) {
+    return rowOf(size).avatar;
+}
+
+QSize KaPixmapLoader::getAvatarSize(Size size, double scale) {
+    const int side = scaled(getAvatarPxSize(size), scale);
+    if (side > 0)
+        return QSize(side, side);
+    const int large = scaled(kSizes[KaAvatarEnum::Large].avatar, scale);
+    return QSize(large, large);
+}
+
+QSize KaPixmapLoader::getOverLaySize(Size size, double scale, Presence) {
+    const int side = scaled(rowOf(size).badge, scale);
+    return QSize(side, side);
+}
+
+KaPixmapLoader::PresenceAdjust KaPixmapLoader::getPresenceAdjust(const KaAvatarConfig& config) {
+    const SizeRow& row = rowOf(config.size);
+    return {scaled(row.adjustX, config.devicePixelRatio), scaled(row.adjustY, config.devicePixelRatio)};
+}
+
+int KaPixmapLoader::getPresenceOffset(const KaAvatarConfig& config) {
+    if (!shouldShowPresence(config))
+        return 0;
+    const double scale = config.devicePixelRatio;
+    const int offset = getOverLaySize(config.size, scale, config.presence).width() -
+                       getAvatarSize(config.size, scale).width() + getPresenceAdjust(config).x;
+    return qMax(0, offset);
+}
+
+QRectF KaPixmapLoader::getPresenceRect(const KaAvatarConfig& config) {
+    const SizeRow& row = rowOf(config.size);
+    const double scale = config.devicePixelRatio;
+    return QRectF(scaled(row.notchX, scale), scaled(row.notchY, scale), scaled(row.notchSide, scale),
+                  scaled(row.notchSide, scale));
+}
+
+bool KaPixmapLoader::isSquareIcon(Presence presence) {
+    return presence >= 0 && presence < kPresenceCount && kPresences[presence].square;
+}
+
+bool KaPixmapLoader::shouldShowPresence(const KaAvatarConfig& config) {
+    return config.presence != KaAvatarEnum::None && !config.hidePresence;
+}
+
+QColor KaPixmapLoader::getPrecenceColor(Presence presence, bool alternate) const {
+    if (presence < 0 || presence >= kPresenceCount)
+        return QColor(Qt::transparent);
+    return m_presenceColors[kPresences[presence].color][alternate ? 1 : 0];
+}
+
+QPointer<BzSvgRenderer> KaPixmapLoader::getPrecenceRenderer(Presence presence) const {
+    if (presence < 0 || presence >= kPresenceCount || kPresences[presence].icon == NoIcon)
+        return nullptr;
+    return m_renderers[size_t(kPresences[presence].icon)];
+}
+
+QFont KaPixmapLoader::getInitialsFont(Size size) const {
+    const SizeRow& row = rowOf(size);
+    QFont font =
+        FontUtils::getFontByPixelSize(FontUtils::Bold, qMax(1, scaled(row.fontPx, m_devicePixelRatio)));
+    font.setWeight(QFont::Weight(row.fontWeight));
+    return font;
+}
+
+QPixmap KaPixmapLoader::getAvatar(KaAvatarConfig config) {
+    if (!(config.devicePixelRatio > 0)) {
+        qWarning("KaPixmapLoader: device pixel ratio %g is not positive, using 1", config.devicePixelRatio);
+        config.devicePixelRatio = 1.0;
+    }
+    if (!validSize(config.size))
+        qWarning("KaPixmapLoader: unknown avatar size %d, using the default sizes", int(config.size));
+    if (config.presence < 0 || config.presence >= kPresenceCount) {
+        qWarning("KaPixmapLoader: unknown presence %d, showing none", int(config.presence));
+        config.presence = KaAvatarEnum::None;
+    }
+    const int type = config.avatarType;
+    if (type < KaAvatarEnum::Unknown || type > KaAvatarEnum::MeetingStepAway)
+        qWarning("KaPixmapLoader: unknown avatar type %d, showing the default avatar", type);
+
+    QPixmap result = config.pixmap;
+    m_devicePixelRatio = config.devicePixelRatio;
+    if (shouldRegeneratePresencePixmaps(config))
+        createOverlayPixmaps(config.devicePixelRatio);
+    if (!config.backgroundColor.isValid())
+        config.backgroundColor = m_defaultBackground;
+    const QSize target = getAvatarSize(config.size, config.devicePixelRatio);
+
+    switch (type) {
+    case KaAvatarEnum::Unknown:
+    case KaAvatarEnum::InitialsWithBackground:
+    case KaAvatarEnum::Pair:
+        result = getDefaultAvatar(config);
+        transformAvatar(config, result);
+        scaleAndSmoothAvatar(result, target);
+        break;
+    case KaAvatarEnum::Image:
+        if (config.processImage && !result.isNull()) {
+            transformAvatar(config, result);
+            scaleAndSmoothAvatar(result, target);
+        }
+        break;
+    default:
+        break;
+    }
+    if (type == KaAvatarEnum::DefaultAvatar || result.isNull() || type < KaAvatarEnum::Unknown ||
+        type > KaAvatarEnum::MeetingStepAway) {
+        result = getDefaultAvatar(config);
+        // The canvas may be widened for the badge; the circle is the avatar's.
+        addRoundedFrameToPixmap(result, QRectF(QPointF(0, 0), QSizeF(target)));
+    }
+    if (type == KaAvatarEnum::LockedIconWithBackground ||
+        (type >= KaAvatarEnum::MessageSentBySelf && type <= KaAvatarEnum::MeetingStepAway)) {
+        const QPixmap fixed = getStaticAvatar(config);
+        if (!fixed.isNull())
+            result = fixed;
+    }
+    if (config.showBorder)
+        addBorder(config, result, target);
+    if (shouldShowPresence(config)) {
+        updateAvatarForPresence(result, target, getPresenceOffset(config));
+        cutoutPresenceNotch(config, result);
+        addPresenceOverlayToPixmap(config, result);
+    }
+    result.setDevicePixelRatio(config.devicePixelRatio);
+    return result;
+}
+
+QPixmap KaPixmapLoader::getDefaultAvatar(const KaAvatarConfig& config) const {
+    const QSize avatar = getAvatarSize(config.size, config.devicePixelRatio);
+    QPixmap canvas = transparentPixmap(avatar + QSize(getPresenceOffset(config), 0));
+    QPainter painter(&canvas);
+    painter.setRenderHints(QPainter::TextAntialiasing | QPainter::Antialiasing |
+                           QPainter::SmoothPixmapTransform);
+    const QRect all(QPoint(0, 0), canvas.size());
+    painter.fillRect(all, m_badgeBackground);
+    painter.fillRect(all, config.backgroundColor.isValid() ? config.backgroundColor : m_defaultBackground);
+    painter.setFont(getInitialsFont(config.size));
+    painter.setPen(m_initialsColor);
+    // Code points, not UTF-16 units: an emoji is one initial.
+    const QList<uint> points = config.initials.toUpper().toUcs4();
+    const qsizetype count = points.size() == 2 ? 2 : qMin<qsizetype>(points.size(), 1);
+    const QString text = QString::fromUcs4(reinterpret_cast<const char32_t*>(points.constData()), count);
+    painter.drawText(all, Qt::AlignCenter, text);
+    return canvas;
+}
+
+QPixmap KaPixmapLoader::getStaticAvatar(const KaAvatarConfig& config) const {
+    if (!validSize(config.size))
+        return QPixmap();
+    const auto it = m_overlays.constFind(scaleKey(config.devicePixelRatio));
+    if (it == m_overlays.cend())
+        return QPixmap();
+    return it->statics[size_t(config.size)].value(config.avatarType);
+}
+
+QPixmap KaPixmapLoader::getOverlayPixmap(const KaAvatarConfig& config) const {
+    if (!validSize(config.size))
+        return QPixmap();
+    const auto it = m_overlays.constFind(scaleKey(config.devicePixelRatio));
+    if (it == m_overlays.cend())
+        return QPixmap();
+    const PresencePixmaps pair = it->presence[size_t(config.size)].value(config.presence);
+    return config.alternatePresenceColors ? pair.alternate : pair.normal;
+}
+
+bool KaPixmapLoader::shouldRegeneratePresencePixmaps(const KaAvatarConfig& config) const {
+    // Per scale rather than per size map: XSmall's map is empty by design,
+    // and asking again for it must not render (and notify) again.
+    return !m_overlays.contains(scaleKey(config.devicePixelRatio));
+}
+
+void KaPixmapLoader::transformAvatar(const KaAvatarConfig& config, QPixmap& pixmap) {
+    if (config.transformation == KaAvatarEnum::Transformation::Pretty)
+        addRoundedFrameToPixmap(pixmap);
+}
+
+void KaPixmapLoader::addRoundedFrameToPixmap(QPixmap& pixmap, const QRectF& circle) {
+    QPixmap framed = transparentPixmap(pixmap.size());
+    framed.setDevicePixelRatio(pixmap.devicePixelRatio());
+    {
+        QPainter painter(&framed);
+        smooth(painter);
+        QPainterPath clip;
+        clip.addEllipse(circle.isEmpty() ? QRectF(QPointF(0, 0), QSizeF(pixmap.deviceIndependentSize()))
+                                         : circle);
+        painter.setClipPath(clip);
+        painter.drawPixmap(0, 0, pixmap);
+    }
+    pixmap.swap(framed);
+}
+
+void KaPixmapLoader::scaleAndSmoothAvatar(QPixmap& pixmap, const QSize& size) {
+    if (pixmap.size() == size)
+        return;
+    const bool square = pixmap.width() == pixmap.height();
+    pixmap =
+        pixmap.scaled(size, square ? Qt::KeepAspectRatio : Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+void KaPixmapLoader::addBorder(const KaAvatarConfig& config, QPixmap& pixmap, const QSize& avatar) const {
+    const int width = qMax(1, int(config.devicePixelRatio));
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(m_borderColor, width));
+    painter.setBrush(Qt::NoBrush);
+    const qreal half = width / 2.0;
+    painter.drawEllipse(QRectF(QPointF(0, 0), QSizeF(avatar)).adjusted(half, half, -half, -half));
+}
+
+void KaPixmapLoader::updateAvatarForPresence(QPixmap& pixmap, const QSize& size, int offset) {
+    QPixmap wider = transparentPixmap(QSize(size.width() + offset, size.height()));
+    {
+        QPainter painter(&wider);
+        painter.drawPixmap(0, 0, pixmap);
+    }
+    pixmap.swap(wider);
+}
+
+void KaPixmapLoader::cutoutPresenceNotch(const KaAvatarConfig& config, QPixmap& pixmap) {
+    const int grow = int(config.devicePixelRatio);
+    QPainterPath path;
+    if (isSquareIcon(config.presence))
+        path.addRoundedRect(getPresenceRect(config), 4.0, 4.0);
+    else
+        path.addEllipse(getPresenceRect(config));
+    path.addEllipse(QRectF(0, 0, pixmap.width() + grow, pixmap.height() + grow));
+    QPixmap cut = transparentPixmap(pixmap.size());
+    {
+        QPainter painter(&cut);
+        smooth(painter);
+        // Odd-even: where notch and circle overlap, the avatar is cut away.
+        painter.setClipPath(path);
+        painter.drawPixmap(0, 0, pixmap);
+    }
+    pixmap.swap(cut);
+}
+
+void KaPixmapLoader::addPresenceOverlayToPixmap(const KaAvatarConfig& config, QPixmap& pixmap) const {
+    const QPixmap badge = getOverlayPixmap(config);
+    if (badge.isNull())
+        return;
+    const PresenceAdjust at = getPresenceAdjust(config);
+    QPainter painter(&pixmap);
+    painter.drawPixmap(at.x, at.y, badge);
+}
+
+void KaPixmapLoader::createOverlayPixmaps(double scale) {
+    renderOverlays(scale);
+    notifyOverlaysUpdated();
+}
+
+void KaPixmapLoader::renderOverlays(double scale) {
+    Overlays overlays;
+    for (int s = 0; s < kSizeCount; ++s) {
+        const auto size = Size(s);
+        createStaticAvatarPixmaps(scale, size, overlays);
+        // XSmall avatars get their notch but no badge.
+        if (size == KaAvatarEnum::XSmall)
+            continue;
+        const QSize badge = getOverLaySize(size, scale, KaAvatarEnum::None);
+        for (int p = 0; p < kPresenceCount; ++p) {
+            const auto presence = Presence(p);
+            PresencePixmaps pair{transparentPixmap(badge), transparentPixmap(badge)};
+            const QPointer<BzSvgRenderer> renderer = getPrecenceRenderer(presence);
+            if (renderer) {
+                for (int variant = 0; variant < 2; ++variant) {
+                    QPainter painter(variant == 0 ? &pair.normal : &pair.alternate);
+                    smooth(painter);
+                    renderer->draw(&painter, QRectF(QPointF(0, 0), QSizeF(badge)),
+                                   getPrecenceColor(presence, variant == 1));
+                }
+            }
+            overlays.presence[size_t(s)].insert(p, pair);
+        }
+    }
+    m_overlays.insert(scaleKey(scale), overlays);
+}
+
+void KaPixmapLoader::createStaticAvatarPixmaps(double scale, Size size, Overlays& into) {
+    struct StaticRow {
+        AvatarType type;
+        int icon;
+    };
+    // The two share rows are cross-assigned on purpose.
+    static const StaticRow rows[] = {
+        {KaAvatarEnum::IMContentShare, ShareScreen},
+        {KaAvatarEnum::IMShareScreen, ContentShare},
+        {KaAvatarEnum::LockedIconWithBackground, Private},
+        {KaAvatarEnum::MeetingIcon, Meetings},
+        {KaAvatarEnum::MeetingRoomWithDevice, GenericDeviceVideo},
+        {KaAvatarEnum::MeetingRoomWithoutDevice, NoDevices},
+        {KaAvatarEnum::DefaultExConferenceAvatar, Meet},
+        {KaAvatarEnum::MeetingStepAway, Coffee},
+    };
+    QHash<int, QPixmap>& map = into.statics[size_t(size)];
+    for (const StaticRow& row : rows)
+        map.insert(row.type, createSpaceIconPixmap(size, m_renderers[size_t(row.icon)], scale, QColor(),
+                                                   m_initialsColor, 0.25));
+    map.insert(KaAvatarEnum::MessageSentBySelf, createSelfChatBubbleAvatar(size, scale));
+    map.insert(KaAvatarEnum::DefaultGuestUserAvatar,
+               createSpaceIconPixmap(size, m_renderers[ParticipantUnknownRegular], scale, m_guestBackground,
+                                     m_initialsColor, 0.2));
+    map.insert(KaAvatarEnum::UnknownSpeaker,
+               createSpaceIconPixmap(size, m_renderers[ParticipantUnknown], scale, m_unknownSpeakerBackground,
+                                     m_initialsColor, 0.25));
+}
+
+QPixmap KaPixmapLoader::createSpaceIconPixmap(Size size, const QPointer<BzSvgRenderer>& renderer,
+                                              double scale, const QColor& background, const QColor& icon,
+                                              double inset) const {
+    KaAvatarConfig config;
+    config.size = size;
+    config.devicePixelRatio = scale;
+    config.backgroundColor = background.isValid() ? background : m_defaultBackground;
+    QPixmap pixmap = getDefaultAvatar(config);
+    addRoundedFrameToPixmap(pixmap);
+    if (renderer && renderer->isValid()) {
+        const QRectF all(QPointF(0, 0), QSizeF(pixmap.size()));
+        const qreal margin = inset * qMin(all.width(), all.height());
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        renderer->draw(&painter, all.adjusted(margin, margin, -margin, -margin), icon);
+    }
+    return pixmap;
+}
+
+QPixmap KaPixmapLoader::createSelfChatBubbleAvatar(Size size, double scale) const {
+    QPixmap pixmap = transparentPixmap(getAvatarSize(size, scale));
+    pixmap.fill(m_badgeBackground);
+    addRoundedFrameToPixmap(pixmap);
+    const QRectF all(QPointF(0, 0), QSizeF(pixmap.size()));
+    QPainter painter(&pixmap);
+    smooth(painter);
+    painter.setPen(QPen(m_defaultBackground, scale));
+    painter.setBrush(Qt::NoBrush);
+    const qreal ring = 0.5 * scale - 0.2 * scale;
+    painter.drawEllipse(all.adjusted(ring, ring, -ring, -ring));
+    const QPointer<BzSvgRenderer> chat = m_renderers[Chat];
+    if (chat) {
+        const qreal margin = 0.28 * qMin(all.width(), all.height());
+        chat->draw(&painter, all.adjusted(margin, margin, -margin, -margin), m_chatBubbleIcon);
+    }
+    return pixmap;
+}
+
+void KaPixmapLoader::updateForCurrentTheme() {
+    if (BzThemeManager::instance()->generation() != m_themeGeneration)
+        onThemeChanged();
+}
+
+void KaPixmapLoader::onThemeChanged() {
+    updateAvatarColors();
+    // Every scale in use is rendered again; the stored one first.
+    QList<qint64> scales = m_overlays.keys();
+    m_overlays.clear();
+    renderOverlays(m_devicePixelRatio);
+    for (qint64 key : scales) {
+        if (!m_overlays.contains(key))
+            renderOverlays(key / 1000.0);
+    }
+    notifyOverlaysUpdated();
+}
+
+void KaPixmapLoader::notifyOverlaysUpdated() {
+    // Views answer by asking for their avatars again. A render that one of
+    // those requests causes is announced once after this round, not from
+    // inside it; every scale renders once per theme, so this ends.
+    if (m_notifying) {
+        m_notifyAgain = true;
+        return;
+    }
+    m_notifying = true;
+    do {
+        m_notifyAgain = false;
+        const QPointer<KaPixmapLoader> alive(this);
+        Q_EMIT overlaysUpdated();
+        if (!alive)
+            return;
+    } while (m_notifyAgain);
+    m_notifying = false;
+}
