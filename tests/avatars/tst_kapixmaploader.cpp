@@ -59,7 +59,7 @@ void tst_KaPixmapLoader::presenceGeometry_data() {
 
     // Notch (34, 32, 18): centre (43, 41), radius 9; badge 16 px at (35, 33).
     QTest::newRow("Medium") << int(KaAvatarEnum::Medium) << false << false << QSize(51, 48) << QPoint(43, 41)
-                            << QPoint(34, 40) << QPoint(33, 40);
+                            << QPoint(35, 40) << QPoint(33, 40);
     QTest::newRow("Medium alternate") << int(KaAvatarEnum::Medium) << true << false << QSize(51, 48)
                                       << QPoint(43, 41) << QPoint(35, 40) << QPoint(33, 40);
     // Notch (80, 81, 44), badge 36 px at (82, 83).
