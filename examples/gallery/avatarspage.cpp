@@ -36,15 +36,8 @@ const KaAvatarEnum::AvatarType kFixedTypes[] = {
 };
 
 // Initials in several scripts; the two-letter ones draw both letters.
-const char* const kInitials[] = {"ak",
-                                 "abc",
-                                 "\xC3\xA9l",
-                                 "\xD0\xB1\xD0\xB4",
-                                 "\xCE\xB1\xCE\xB2",
-                                 "\xEA\xB9\x80\xEB\xAF\xBC",
-                                 "\xD8\xB3\xD8\xB9",
-                                 "\xF0\x9F\x98\x80",
-                                 "\xF0\x9F\x91\x8D\xF0\x9F\x8E\x89"};
+const char* const kInitials[] = {
+    "ak", "abc", "\xC3\xA9l", "\xD0\xB1\xD0\xB4", "\xCE\xB1\xCE\xB2", "\xD8\xB3\xD8\xB9", "\xF0\x9F\x98\x80"};
 
 const char* const kCounts[] = {"0", "7", "99", "100", QT_TRANSLATE_NOOP("AvatarsPage", "new")};
 
@@ -198,6 +191,11 @@ void AvatarsPage::addInitialsSection() {
     colored->setAvatarColor(
         BzThemeUtils::getColorSet(QStringLiteral("avatar-color-avatar-background-violet")).normal());
     colored->setTooltip(QStringLiteral("Lee Vance"));
+    // A host colour is a plain colour: pick it again when the theme changes.
+    connect(m_loader, &KaPixmapLoader::overlaysUpdated, colored, [colored] {
+        colored->setAvatarColor(
+            BzThemeUtils::getColorSet(QStringLiteral("avatar-color-avatar-background-violet")).normal());
+    });
     layout->addWidget(colored);
     layout->addStretch(1);
     contentLayout()->addLayout(layout);
@@ -273,13 +271,16 @@ void AvatarsPage::retranslateUi() {
     m_captions[last - 1]->setText(tr("Alternate"));
     for (KaBadge* badge : findChildren<KaBadge*>()) {
         const QByteArray source = badge->property("source").toByteArray();
+        // Counts stay numbers; only the word is translated.
+        bool number = false;
+        source.toInt(&number);
         if (!source.isEmpty())
-            badge->setText(tr(source.constData()));
+            badge->setText(number ? QString::fromLatin1(source) : tr(source.constData()));
     }
     for (KaRoundBadgeButton* button : findChildren<KaRoundBadgeButton*>()) {
         const QByteArray count = button->property("count").toByteArray();
         if (!count.isEmpty() && !button->iconBadge())
-            button->setBadgeText(tr(count.constData()));
+            button->setBadgeText(QString::fromLatin1(count));
         button->setAccessibleLabel(button->isEnabled() ? tr("Calls") : tr("Messages"));
     }
 }
