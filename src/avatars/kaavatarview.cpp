@@ -57,17 +57,26 @@ KaAvatarView::KaAvatarView(QWidget* parent, KaPixmapLoader* loader)
 
 KaAvatarView::KaAvatarView(QWidget* parent, KaPixmapLoader* loader, KaAvatarEnum::Presence presence,
                            KaAvatarEnum::Size size)
-    : KaAvatarView(parent, loader) {
+    : KaAvatarView(parent) {
+    // One picture for the finished view rather than one per step.
+    m_deferUpdates = true;
+    setPixmapLoader(loader);
     setPresence(presence);
     setSize(size);
+    m_deferUpdates = false;
+    updateAvatar();
 }
 
 KaAvatarView::KaAvatarView(QWidget* parent, KaPixmapLoader* loader, const QPixmap& pixmap,
                            KaAvatarEnum::Presence presence, KaAvatarEnum::Size size)
-    : KaAvatarView(parent, loader) {
+    : KaAvatarView(parent) {
+    m_deferUpdates = true;
+    setPixmapLoader(loader);
     setAvatarPixmap(pixmap);
     setPresence(presence);
     setSize(size);
+    m_deferUpdates = false;
+    updateAvatar();
 }
 
 KaAvatarView::~KaAvatarView() = default;
@@ -151,7 +160,7 @@ void KaAvatarView::setTooltip(const QString& text) {
 }
 
 void KaAvatarView::updateAvatar() {
-    if (!m_loader)
+    if (!m_loader || m_deferUpdates)
         return;
     const QPixmap avatar = m_loader->getAvatar(m_config);
     setPixmap(avatar);

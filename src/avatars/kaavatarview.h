@@ -99,4 +99,5 @@ private:
     QColor m_avatarColor;
     QString m_defaultAccessibleName;
     bool m_pressed = false;
+    bool m_deferUpdates = false;
 };

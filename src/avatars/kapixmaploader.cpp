@@ -158,6 +158,24 @@ void smooth(QPainter& painter) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
 }
 
+// Keeps what `path` covers of `pixmap` (in device pixels), with smooth
+// edges. Filling the path with the picture as a brush costs a fraction of
+// clipping to it.
+void fillThrough(QPixmap& pixmap, const QPainterPath& path) {
+    QPixmap texture = pixmap;
+    texture.setDevicePixelRatio(1.0);
+    QPixmap result = transparentPixmap(texture.size());
+    {
+        QPainter painter(&result);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QBrush(texture));
+        painter.drawPath(path);
+    }
+    result.setDevicePixelRatio(pixmap.devicePixelRatio());
+    pixmap.swap(result);
+}
+
 } // namespace
 
 KaPixmapLoader::KaPixmapLoader()
@@ -288,52 +306,125 @@ QPixmap KaPixmapLoader::getAvatar(KaAvatarConfig config) {
     if (type < KaAvatarEnum::Unknown || type > KaAvatarEnum::MeetingStepAway)
         qWarning("KaPixmapLoader: unknown avatar type %d, showing the default avatar", type);
 
-    QPixmap result = config.pixmap;
     m_devicePixelRatio = config.devicePixelRatio;
     if (shouldRegeneratePresencePixmaps(config))
         createOverlayPixmaps(config.devicePixelRatio);
     if (!config.backgroundColor.isValid())
         config.backgroundColor = m_defaultBackground;
     const QSize target = getAvatarSize(config.size, config.devicePixelRatio);
+    const bool presence = shouldShowPresence(config);
+    const int offset = getPresenceOffset(config);
+    const bool pretty = config.transformation == KaAvatarEnum::Transformation::Pretty;
 
-    switch (type) {
-    case KaAvatarEnum::Unknown:
-    case KaAvatarEnum::InitialsWithBackground:
-    case KaAvatarEnum::Pair:
-        result = getDefaultAvatar(config);
-        transformAvatar(config, result);
-        scaleAndSmoothAvatar(result, target);
-        break;
-    case KaAvatarEnum::Image:
-        if (config.processImage && !result.isNull()) {
-            transformAvatar(config, result);
-            scaleAndSmoothAvatar(result, target);
-        }
-        break;
-    default:
-        break;
-    }
-    if (type == KaAvatarEnum::DefaultAvatar || result.isNull() || type < KaAvatarEnum::Unknown ||
-        type > KaAvatarEnum::MeetingStepAway) {
-        result = getDefaultAvatar(config);
-        // The canvas may be widened for the badge; the circle is the avatar's.
-        addRoundedFrameToPixmap(result, QRectF(QPointF(0, 0), QSizeF(target)));
-    }
+    // What the avatar is made of. Whatever is missing (a fixed icon, a
+    // picture) falls back to the default initials avatar.
+    enum Kind { Initials, Squeezed, Fixed, Picture, RawPicture } kind = Initials;
+    QPixmap picture;
     if (type == KaAvatarEnum::LockedIconWithBackground ||
         (type >= KaAvatarEnum::MessageSentBySelf && type <= KaAvatarEnum::MeetingStepAway)) {
-        const QPixmap fixed = getStaticAvatar(config);
-        if (!fixed.isNull())
-            result = fixed;
+        picture = getStaticAvatar(config);
+        if (!picture.isNull())
+            kind = Fixed;
+    } else if (type == KaAvatarEnum::Unknown || type == KaAvatarEnum::InitialsWithBackground ||
+               type == KaAvatarEnum::Pair) {
+        kind = Squeezed;
+    } else if (type == KaAvatarEnum::Image && !config.pixmap.isNull()) {
+        picture = config.pixmap;
+        picture.setDevicePixelRatio(1.0);
+        kind = config.processImage ? Picture : RawPicture;
     }
-    if (config.showBorder)
-        addBorder(config, result, target);
-    if (shouldShowPresence(config)) {
-        updateAvatarForPresence(result, target, getPresenceOffset(config));
-        cutoutPresenceNotch(config, result);
-        addPresenceOverlayToPixmap(config, result);
+
+    // All steps paint into one canvas: a fresh painter per step would cost
+    // more than the drawing itself.
+    if (kind == RawPicture && !presence) {
+        return finishAvatar(config, picture.size(), 0, false, true,
+                            [&](QPainter& painter) { painter.drawPixmap(0, 0, picture); });
     }
+    const bool round = kind == Initials || kind == Fixed || ((kind == Picture || kind == Squeezed) && pretty);
+    return finishAvatar(config, target, offset, presence, round, [&](QPainter& painter) {
+        const QRectF avatar(QPointF(0, 0), QSizeF(target));
+        switch (kind) {
+        case Fixed:
+        case RawPicture:
+            painter.drawPixmap(0, 0, picture);
+            break;
+        case Picture:
+            if (pretty) {
+                // The circle inscribed in the picture, stretched to the
+                // avatar when the picture is not square.
+                QBrush brush(picture);
+                brush.setTransform(QTransform::fromScale(avatar.width() / picture.width(),
+                                                         avatar.height() / picture.height()));
+                painter.setPen(Qt::NoPen);
+                painter.setBrush(brush);
+                painter.drawEllipse(avatar);
+            } else {
+                painter.drawPixmap(avatar, picture, QRectF(picture.rect()));
+            }
+            break;
+        case Squeezed: {
+            // Drawn on the canvas widened for the badge, cropped to its
+            // ellipse and scaled back to the avatar's width.
+            const QRectF wide(0, 0, target.width() + offset, target.height());
+            painter.save();
+            painter.scale(avatar.width() / wide.width(), 1.0);
+            drawInitials(config, painter, wide, pretty);
+            painter.restore();
+            break;
+        }
+        case Initials:
+            // The circle is the avatar's; the text centres on the wider
+            // canvas, so small avatars with presence sit a little right.
+            drawInitials(config, painter, avatar, true,
+                         QRectF(0, 0, target.width() + offset, target.height()));
+            break;
+        }
+    });
+}
+
+template <typename Draw>
+QPixmap KaPixmapLoader::finishAvatar(const KaAvatarConfig& config, const QSize& avatar, int offset,
+                                     bool presence, bool round, Draw draw) const {
+    QImage canvas(QSize(avatar.width() + offset, avatar.height()).expandedTo(QSize(1, 1)),
+                  QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(Qt::transparent);
+    {
+        QPainter painter(&canvas);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                               QPainter::SmoothPixmapTransform);
+        draw(painter);
+        if (config.showBorder)
+            addBorder(config, painter, avatar);
+        if (presence) {
+            cutoutPresenceNotch(config, painter, canvas.size(), round);
+            addPresenceOverlayToPixmap(config, painter);
+        }
+    }
+    QPixmap result = QPixmap::fromImage(std::move(canvas));
     result.setDevicePixelRatio(config.devicePixelRatio);
     return result;
+}
+
+void KaPixmapLoader::drawInitials(const KaAvatarConfig& config, QPainter& painter, const QRectF& shape,
+                                  bool circle, const QRectF& textRect) const {
+    painter.setPen(Qt::NoPen);
+    for (const QColor& fill : {m_badgeBackground, config.backgroundColor}) {
+        painter.setBrush(fill);
+        if (circle)
+            painter.drawEllipse(shape);
+        else
+            painter.drawRect(shape);
+    }
+    painter.setFont(getInitialsFont(config.size));
+    painter.setPen(m_initialsColor);
+    painter.drawText(textRect.isEmpty() ? shape : textRect, Qt::AlignCenter, initialsText(config.initials));
+}
+
+QString KaPixmapLoader::initialsText(const QString& initials) {
+    // Code points, not UTF-16 units: an emoji is one initial.
+    const QList<uint> points = initials.toUpper().toUcs4();
+    const qsizetype count = points.size() == 2 ? 2 : qMin<qsizetype>(points.size(), 1);
+    return QString::fromUcs4(reinterpret_cast<const char32_t*>(points.constData()), count);
 }
 
 QPixmap KaPixmapLoader::getDefaultAvatar(const KaAvatarConfig& config) const {
@@ -347,11 +438,7 @@ QPixmap KaPixmapLoader::getDefaultAvatar(const KaAvatarConfig& config) const {
     painter.fillRect(all, config.backgroundColor.isValid() ? config.backgroundColor : m_defaultBackground);
     painter.setFont(getInitialsFont(config.size));
     painter.setPen(m_initialsColor);
-    // Code points, not UTF-16 units: an emoji is one initial.
-    const QList<uint> points = config.initials.toUpper().toUcs4();
-    const qsizetype count = points.size() == 2 ? 2 : qMin<qsizetype>(points.size(), 1);
-    const QString text = QString::fromUcs4(reinterpret_cast<const char32_t*>(points.constData()), count);
-    painter.drawText(all, Qt::AlignCenter, text);
+    painter.drawText(all, Qt::AlignCenter, initialsText(config.initials));
     return canvas;
 }
 
@@ -380,78 +467,48 @@ bool KaPixmapLoader::shouldRegeneratePresencePixmaps(const KaAvatarConfig& confi
     return !m_overlays.contains(scaleKey(config.devicePixelRatio));
 }
 
-void KaPixmapLoader::transformAvatar(const KaAvatarConfig& config, QPixmap& pixmap) {
-    if (config.transformation == KaAvatarEnum::Transformation::Pretty)
-        addRoundedFrameToPixmap(pixmap);
-}
-
 void KaPixmapLoader::addRoundedFrameToPixmap(QPixmap& pixmap, const QRectF& circle) {
-    QPixmap framed = transparentPixmap(pixmap.size());
-    framed.setDevicePixelRatio(pixmap.devicePixelRatio());
-    {
-        QPainter painter(&framed);
-        smooth(painter);
-        QPainterPath clip;
-        clip.addEllipse(circle.isEmpty() ? QRectF(QPointF(0, 0), QSizeF(pixmap.deviceIndependentSize()))
-                                         : circle);
-        painter.setClipPath(clip);
-        painter.drawPixmap(0, 0, pixmap);
-    }
-    pixmap.swap(framed);
+    QPainterPath path;
+    path.addEllipse(circle.isEmpty() ? QRectF(QPointF(0, 0), QSizeF(pixmap.size())) : circle);
+    fillThrough(pixmap, path);
 }
 
-void KaPixmapLoader::scaleAndSmoothAvatar(QPixmap& pixmap, const QSize& size) {
-    if (pixmap.size() == size)
-        return;
-    const bool square = pixmap.width() == pixmap.height();
-    pixmap =
-        pixmap.scaled(size, square ? Qt::KeepAspectRatio : Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
-void KaPixmapLoader::addBorder(const KaAvatarConfig& config, QPixmap& pixmap, const QSize& avatar) const {
+void KaPixmapLoader::addBorder(const KaAvatarConfig& config, QPainter& painter, const QSize& avatar) const {
     const int width = qMax(1, int(config.devicePixelRatio));
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(m_borderColor, width));
     painter.setBrush(Qt::NoBrush);
     const qreal half = width / 2.0;
     painter.drawEllipse(QRectF(QPointF(0, 0), QSizeF(avatar)).adjusted(half, half, -half, -half));
 }
 
-void KaPixmapLoader::updateAvatarForPresence(QPixmap& pixmap, const QSize& size, int offset) {
-    QPixmap wider = transparentPixmap(QSize(size.width() + offset, size.height()));
-    {
-        QPainter painter(&wider);
-        painter.drawPixmap(0, 0, pixmap);
-    }
-    pixmap.swap(wider);
-}
-
-void KaPixmapLoader::cutoutPresenceNotch(const KaAvatarConfig& config, QPixmap& pixmap) {
-    const int grow = int(config.devicePixelRatio);
-    QPainterPath path;
+void KaPixmapLoader::cutoutPresenceNotch(const KaAvatarConfig& config, QPainter& painter, const QSize& canvas,
+                                         bool round) {
+    // Where the notch overlaps the avatar it is cut away; so is anything
+    // outside the avatar's ellipse grown by a pixel, which only a square
+    // avatar has.
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
     if (isSquareIcon(config.presence))
-        path.addRoundedRect(getPresenceRect(config), 4.0, 4.0);
+        painter.drawRoundedRect(getPresenceRect(config), 4.0, 4.0);
     else
-        path.addEllipse(getPresenceRect(config));
-    path.addEllipse(QRectF(0, 0, pixmap.width() + grow, pixmap.height() + grow));
-    QPixmap cut = transparentPixmap(pixmap.size());
-    {
-        QPainter painter(&cut);
-        smooth(painter);
-        // Odd-even: where notch and circle overlap, the avatar is cut away.
-        painter.setClipPath(path);
-        painter.drawPixmap(0, 0, pixmap);
+        painter.drawEllipse(getPresenceRect(config));
+    if (!round) {
+        const int grow = int(config.devicePixelRatio);
+        QPainterPath outside;
+        outside.addRect(QRectF(QPointF(0, 0), QSizeF(canvas)));
+        outside.addEllipse(QRectF(0, 0, canvas.width() + grow, canvas.height() + grow));
+        painter.drawPath(outside);
     }
-    pixmap.swap(cut);
+    painter.restore();
 }
 
-void KaPixmapLoader::addPresenceOverlayToPixmap(const KaAvatarConfig& config, QPixmap& pixmap) const {
+void KaPixmapLoader::addPresenceOverlayToPixmap(const KaAvatarConfig& config, QPainter& painter) const {
     const QPixmap badge = getOverlayPixmap(config);
     if (badge.isNull())
         return;
     const PresenceAdjust at = getPresenceAdjust(config);
-    QPainter painter(&pixmap);
     painter.drawPixmap(at.x, at.y, badge);
 }
 

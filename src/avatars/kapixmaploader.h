@@ -17,6 +17,7 @@
 
 class BzSvgRenderer;
 class QFont;
+class QPainter;
 
 // Makes every avatar picture of the library: cropped to a circle, scaled to
 // its size class, optionally framed, with a notch at the lower right and the
@@ -102,13 +103,19 @@ private:
     QPixmap getStaticAvatar(const KaAvatarConfig& config) const;
     QPixmap getOverlayPixmap(const KaAvatarConfig& config) const;
     bool shouldRegeneratePresencePixmaps(const KaAvatarConfig& config) const;
-    static void transformAvatar(const KaAvatarConfig& config, QPixmap& pixmap);
     static void addRoundedFrameToPixmap(QPixmap& pixmap, const QRectF& circle = QRectF());
-    static void scaleAndSmoothAvatar(QPixmap& pixmap, const QSize& size);
-    void addBorder(const KaAvatarConfig& config, QPixmap& pixmap, const QSize& avatar) const;
-    static void updateAvatarForPresence(QPixmap& pixmap, const QSize& size, int offset);
-    static void cutoutPresenceNotch(const KaAvatarConfig& config, QPixmap& pixmap);
-    void addPresenceOverlayToPixmap(const KaAvatarConfig& config, QPixmap& pixmap) const;
+    void addBorder(const KaAvatarConfig& config, QPainter& painter, const QSize& avatar) const;
+    static void cutoutPresenceNotch(const KaAvatarConfig& config, QPainter& painter, const QSize& canvas,
+                                    bool round);
+    void addPresenceOverlayToPixmap(const KaAvatarConfig& config, QPainter& painter) const;
+    // Paints `draw` and the finishing steps (ring, notch, badge) into one
+    // canvas of `avatar` widened by `offset`.
+    template <typename Draw>
+    QPixmap finishAvatar(const KaAvatarConfig& config, const QSize& avatar, int offset, bool presence,
+                         bool round, Draw draw) const;
+    void drawInitials(const KaAvatarConfig& config, QPainter& painter, const QRectF& shape, bool circle,
+                      const QRectF& textRect = QRectF()) const;
+    static QString initialsText(const QString& initials);
 
     void createOverlayPixmaps(double scale);
     void renderOverlays(double scale);
