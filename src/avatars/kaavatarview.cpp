@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QToolTip>
 #include <QtDebug>
@@ -135,9 +136,12 @@ void KaAvatarView::setAvatarInitials(const QString& initials) {
     m_config.initials = initials;
     updateAvatar();
     updateAccessibleName();
-    // Listeners have always been handed this pixmap; an empty name gives a
-    // null one without touching the file system.
-    Q_EMIT avatarInitialsChanged(initials.isEmpty() ? QPixmap() : QPixmap(initials));
+    // Listeners have always been handed a pixmap loaded from a file named
+    // like the initials. Loading probes the file system, so it is done only
+    // for a listener, and not for an empty name.
+    static const QMetaMethod changed = QMetaMethod::fromSignal(&KaAvatarView::avatarInitialsChanged);
+    if (isSignalConnected(changed))
+        Q_EMIT avatarInitialsChanged(initials.isEmpty() ? QPixmap() : QPixmap(initials));
 }
 
 void KaAvatarView::setAvatarPixmap(const QPixmap& pixmap) {

@@ -178,11 +178,39 @@ void fillThrough(QPixmap& pixmap, const QPainterPath& path) {
 
 } // namespace
 
+// Finished avatars by request. Views ask again for the same picture on every
+// overlaysUpdated() and many show the same person; composing is dearer than
+// a lookup. Emptied whenever colours or overlays are rendered again.
+struct KaPixmapLoader::Cache {
+    struct Key {
+        QString initials;
+        qint64 pixmap;
+        qint64 scale;
+        QRgb background;
+        int size;
+        int presence;
+        int type;
+        int flags;
+        bool operator==(const Key& o) const {
+            return initials == o.initials && pixmap == o.pixmap && scale == o.scale &&
+                   background == o.background && size == o.size && presence == o.presence && type == o.type &&
+                   flags == o.flags;
+        }
+        friend size_t qHash(const Key& k, size_t seed = 0) {
+            return qHashMulti(seed, k.initials, k.pixmap, k.scale, k.background, k.size, k.presence, k.type,
+                              k.flags);
+        }
+    };
+    static constexpr int kLimit = 256;
+    QHash<Key, QPixmap> pictures;
+};
+
 KaPixmapLoader::KaPixmapLoader()
     : KaPixmapLoader(nullptr, 1.0) {}
 
 KaPixmapLoader::KaPixmapLoader(QObject* parent, double devicePixelRatio)
     : QObject(parent)
+    , m_cache(new Cache)
     , m_devicePixelRatio(devicePixelRatio > 0 ? devicePixelRatio : 1.0) {
     if (!(devicePixelRatio > 0))
         qWarning("KaPixmapLoader: device pixel ratio %g is not positive, using 1", devicePixelRatio);
@@ -207,6 +235,7 @@ void KaPixmapLoader::initRenderers() {
 }
 
 void KaPixmapLoader::updateAvatarColors() {
+    m_cache->pictures.clear();
     m_themeGeneration = BzThemeManager::instance()->generation();
     m_badgeBackground = colorOf(Karvox::avatar_presence_icon_background);
     m_defaultBackground = colorOf(Karvox::avatar_color_avatar_background_default);
@@ -311,6 +340,27 @@ QPixmap KaPixmapLoader::getAvatar(KaAvatarConfig config) {
         createOverlayPixmaps(config.devicePixelRatio);
     if (!config.backgroundColor.isValid())
         config.backgroundColor = m_defaultBackground;
+
+    const Cache::Key key{config.initials,
+                         type == KaAvatarEnum::Image ? config.pixmap.cacheKey() : 0,
+                         scaleKey(config.devicePixelRatio),
+                         config.backgroundColor.rgba(),
+                         int(config.size),
+                         int(config.presence),
+                         type,
+                         int(config.transformation) | config.hidePresence << 2 | config.processImage << 3 |
+                             config.showBorder << 4 | config.alternatePresenceColors << 5};
+    const auto cached = m_cache->pictures.constFind(key);
+    if (cached != m_cache->pictures.cend())
+        return *cached;
+    if (m_cache->pictures.size() >= Cache::kLimit)
+        m_cache->pictures.clear();
+    const QPixmap made = composeAvatar(config, type);
+    m_cache->pictures.insert(key, made);
+    return made;
+}
+
+QPixmap KaPixmapLoader::composeAvatar(const KaAvatarConfig& config, int type) const {
     const QSize target = getAvatarSize(config.size, config.devicePixelRatio);
     const bool presence = shouldShowPresence(config);
     const int offset = getPresenceOffset(config);
@@ -408,8 +458,10 @@ QPixmap KaPixmapLoader::finishAvatar(const KaAvatarConfig& config, const QSize& 
 void KaPixmapLoader::drawInitials(const KaAvatarConfig& config, QPainter& painter, const QRectF& shape,
                                   bool circle, const QRectF& textRect) const {
     painter.setPen(Qt::NoPen);
-    for (const QColor& fill : {m_badgeBackground, config.backgroundColor}) {
-        painter.setBrush(fill);
+    // The badge background shows only through a translucent avatar colour.
+    const bool underlay = config.backgroundColor.alpha() < 255;
+    for (int layer = underlay ? 0 : 1; layer < 2; ++layer) {
+        painter.setBrush(layer == 0 ? m_badgeBackground : config.backgroundColor);
         if (circle)
             painter.drawEllipse(shape);
         else
@@ -518,6 +570,7 @@ void KaPixmapLoader::createOverlayPixmaps(double scale) {
 }
 
 void KaPixmapLoader::renderOverlays(double scale) {
+    m_cache->pictures.clear();
     Overlays overlays;
     for (int s = 0; s < kSizeCount; ++s) {
         const auto size = Size(s);

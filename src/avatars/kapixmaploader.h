@@ -13,6 +13,7 @@
 #include <QSize>
 
 #include <array>
+#include <memory>
 #include <vector>
 
 class BzSvgRenderer;
@@ -82,6 +83,7 @@ Q_SIGNALS:
     void overlaysUpdated();
 
 private:
+    struct Cache;
     struct Overlays {
         std::array<QHash<int, PresencePixmaps>, 7> presence;
         std::array<QHash<int, QPixmap>, 7> statics;
@@ -99,6 +101,7 @@ private:
     QPointer<BzSvgRenderer> getPrecenceRenderer(KaAvatarEnum::Presence presence) const;
     QFont getInitialsFont(KaAvatarEnum::Size size) const;
 
+    QPixmap composeAvatar(const KaAvatarConfig& config, int type) const;
     QPixmap getDefaultAvatar(const KaAvatarConfig& config) const;
     QPixmap getStaticAvatar(const KaAvatarConfig& config) const;
     QPixmap getOverlayPixmap(const KaAvatarConfig& config) const;
@@ -131,6 +134,7 @@ private:
     static qint64 scaleKey(double scale);
     static bool validSize(int size);
 
+    std::unique_ptr<Cache> m_cache;
     // Keyed by scaleKey(): the scales rendered for the current theme.
     QMap<qint64, Overlays> m_overlays;
     std::vector<QPointer<BzSvgRenderer>> m_renderers;
