@@ -46,8 +46,8 @@ void tst_KaAlertIconBadge::squareWithIcon() {
 }
 
 void tst_KaAlertIconBadge::unknownStyle() {
-    QTest::ignoreMessage(QtWarningMsg, "KaAlertBadgeConfig: unknown badge style -2, using DefaultBadge");
-    KaAlertIconBadge badge(nullptr, KaBadgeEnum::Style(-2));
+    QTest::ignoreMessage(QtWarningMsg, "KaAlertBadgeConfig: unknown badge style 5, using DefaultBadge");
+    KaAlertIconBadge badge(nullptr, KaBadgeEnum::Style(5));
     QCOMPARE(badge.style(), KaBadgeEnum::DefaultBadge);
     QVERIFY(badge.leftIcon().isEmpty());
     QCOMPARE(badge.maximumSize(), QSize(20, 20));

@@ -171,8 +171,8 @@ void tst_KaAvatarView::loaderDeletedFirst() {
 void tst_KaAvatarView::unknownSize() {
     KaPixmapLoader loader;
     KaAvatarView view(nullptr, &loader);
-    QTest::ignoreMessage(QtWarningMsg, "KaPixmapLoader: unknown avatar size 9, using the default sizes");
-    view.setSize(KaAvatarEnum::Size(9));
+    QTest::ignoreMessage(QtWarningMsg, "KaPixmapLoader: unknown avatar size 7, using the default sizes");
+    view.setSize(KaAvatarEnum::Size(7));
     QCOMPARE(view.maximumSize(), QSize(32, 32));
 }
 
