@@ -1,5 +1,6 @@
 #include "gallerypageregistry.h"
 
+#include "avatarspage.h"
 #include "buttonspage.h"
 #include "focuspage.h"
 #include "foundationpage.h"
@@ -31,6 +32,8 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
         {QStringLiteral("navigation"), QT_TRANSLATE_NOOP("GalleryPages", "Navigation"),
          &create<NavigationPage>},
         {QStringLiteral("selection"), QT_TRANSLATE_NOOP("GalleryPages", "Selection"), &create<SelectionPage>},
+        {QStringLiteral("avatars"), QT_TRANSLATE_NOOP("GalleryPages", "Avatars and badges"),
+         &create<AvatarsPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };

@@ -109,6 +109,9 @@ void followTextScale(QWidget* widget, int fontToken) {
 void alignLabelsToLayoutDirection(QWidget* root) {
     const auto labels = root->findChildren<KaLabelBase*>();
     for (KaLabelBase* label : labels) {
+        // Centred labels (badges, avatars) are centred on purpose.
+        if (label->alignment() & Qt::AlignHCenter)
+            continue;
         const Qt::Alignment side =
             label->layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
         const Qt::Alignment vertical = label->alignment() & Qt::AlignVertical_Mask;
