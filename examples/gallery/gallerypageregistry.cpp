@@ -1,5 +1,6 @@
 #include "gallerypageregistry.h"
 
+#include "bannerspage.h"
 #include "buttonspage.h"
 #include "focuspage.h"
 #include "foundationpage.h"
@@ -23,6 +24,8 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
         {QStringLiteral("popups"), QT_TRANSLATE_NOOP("GalleryPages", "Labels and popups"),
          &create<PopupsPage>},
         {QStringLiteral("buttons"), QT_TRANSLATE_NOOP("GalleryPages", "Buttons"), &create<ButtonsPage>},
+        {QStringLiteral("banners"), QT_TRANSLATE_NOOP("GalleryPages", "Banners and feedback"),
+         &create<BannersPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };

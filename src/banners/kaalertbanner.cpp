@@ -210,6 +210,13 @@ void KaAlertBanner::applyBannerStyle() {
     m_text->setAlignment((wrap ? Qt::AlignTop : Qt::AlignVCenter) | Qt::AlignLeading);
     m_text->setWordWrap(wrap);
     m_text->setFontToken(wrap ? BzFont::BodySmall : BzFont::Control, true);
+    if (m_alignment == TopAligned || m_alignment == TopAlignedAlt) {
+        // One line is centred on the row; wrapped text starts at the top.
+        const Qt::Alignment vertical = wrap ? Qt::AlignTop : Qt::AlignVCenter;
+        for (QWidget* child : {static_cast<QWidget*>(m_icon), static_cast<QWidget*>(m_text),
+                               static_cast<QWidget*>(m_primary), static_cast<QWidget*>(m_secondary)})
+            m_layout->setAlignment(child, vertical);
+    }
     switch (m_styleMode) {
     case Wrapping:
         m_layout->setContentsMargins(4, 4, 4, 4);

@@ -5,8 +5,8 @@
 #include "kalabel.h"
 #include "kasvglabel.h"
 
-#include <bzsvgpushbutton.h>
 #include <bzfont.h>
+#include <bzsvgpushbutton.h>
 #include <bzthemeutils.h>
 
 #include <QAccessibleWidget>
@@ -62,8 +62,10 @@ KaDiscoverabilityBanner::KaDiscoverabilityBanner(QWidget* parent,
         factoryInstalled = true;
         QAccessible::installFactory(bannerFactory);
     }
-    if (!isBannerKind(type))
+    if (!isBannerKind(type)) {
         qWarning("KaDiscoverabilityBanner: %d is not a banner kind; shown as a new-feature tip", int(type));
+        m_type = KaDiscoverabilityEnum::NewFeature;
+    }
     initialize();
 }
 
