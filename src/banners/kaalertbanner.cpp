@@ -280,11 +280,6 @@ void KaAlertBanner::applyColours() {
     setProperty("focusBorderRadius", double(own.borderRadius + 1));
 }
 
-void KaAlertBanner::onThemeChanged() {
-    BzWidget::onThemeChanged();
-    update();
-}
-
 void KaAlertBanner::setText(const QString& text, const QString& accessibleName) {
     const bool changed = m_text->text() != text;
     m_text->setText(text);

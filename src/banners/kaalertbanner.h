@@ -126,9 +126,6 @@ public:
     void setHideOnDismiss(bool hide);
     bool hideOnDismiss() const { return m_hideOnDismiss; }
 
-public Q_SLOTS:
-    void onThemeChanged() override;
-
 Q_SIGNALS:
     void bannerLinkClicked(const QString& link);
     void alerBannerButtonClicked();

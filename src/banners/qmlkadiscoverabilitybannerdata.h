@@ -34,9 +34,9 @@ public:
     int bannerWidth() const { return m_width; }
     void setBannerWidth(int width);
 
-    // A banner showing this description, owned by `parent`. Later changes
-    // of the description reach it while both live; its dismissal emits
-    // dismissed().
+    // A banner showing this description, owned by `parent`. Later text and
+    // width changes reach it while both live (its kind is fixed); its
+    // dismissal emits dismissed().
     KaDiscoverabilityBanner* createBanner(QWidget* parent) const;
 
 Q_SIGNALS:
