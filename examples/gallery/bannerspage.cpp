@@ -39,6 +39,15 @@ const char kLongText[] = QT_TRANSLATE_NOOP(
     "This banner wraps a long message over several lines instead of widening the window, and "
     "keeps its icon and buttons lined up with the first line. <a href=\"details\">Learn more</a>");
 
+// Two thirds of the width. A maximum width would not do: a vertical layout
+// asks for the height at its own width, and wrapped text would be clipped.
+void addPartWidth(QBoxLayout* layout, QWidget* widget) {
+    auto* row = new QHBoxLayout;
+    row->addWidget(widget, 2);
+    row->addStretch(1);
+    layout->addLayout(row);
+}
+
 } // namespace
 
 BannersPage::BannersPage(QWidget* parent)
@@ -113,13 +122,12 @@ void BannersPage::addAlertSection() {
     wrapped->enableRichText();
     wrapped->setHideOnDismiss(true);
     wrapped->setButtonVisible(true);
-    wrapped->setMaximumWidth(640);
     onRetranslate([wrapped] {
         wrapped->setText(tr(kLongText),
                          tr("This banner wraps a long message over several lines. Learn more"));
         wrapped->setButtonText(tr("Update"));
     });
-    column->addWidget(wrapped);
+    addPartWidth(column, wrapped);
 
     const struct {
         KaAlertBanner::KaAlertBannerTextAlignment alignment;
@@ -134,12 +142,11 @@ void BannersPage::addAlertSection() {
         auto* banner = new KaAlertBanner(nullptr, entry.type, entry.alignment);
         banner->setBannerStyleMode(KaAlertBanner::SingleLine);
         banner->setButtonVisible(true);
-        banner->setMaximumWidth(640);
         onRetranslate([banner] {
             banner->setText(tr("You are presenting to everyone in the room."));
             banner->setButtonText(tr("Stop"));
         });
-        column->addWidget(banner);
+        addPartWidth(column, banner);
     }
     contentLayout()->addLayout(column);
 }

@@ -5,6 +5,7 @@
 #include "kapillbutton.h"
 #include "kasvglabel.h"
 
+#include <bzfontmanager.h>
 #include <bzsvgpushbutton.h>
 
 #include <QAccessibleWidget>
@@ -45,6 +46,7 @@ const TypeLook* lookOf(int type) {
 
 constexpr int kWrappedRadius = 8;
 constexpr int kLineRadius = 14;
+constexpr int kMinimumWrapWidth = 120;
 
 // The text label takes keyboard focus (to read and copy the message), so it
 // asks the style for the library's focus ring like every other focusable
@@ -155,6 +157,8 @@ KaAlertBanner::KaAlertBanner(QWidget* parent, KaAlertBannerType type, KaAlertBan
     connect(m_secondary, &QAbstractButton::clicked, this, &KaAlertBanner::secondaryAlertBannerButtonClicked);
     connect(m_dismiss, &QAbstractButton::clicked, this, &KaAlertBanner::dismissed);
     connect(m_text, &QLabel::linkActivated, this, &KaAlertBanner::bannerLinkClicked);
+    connect(BzFontManager::instance(), &BzFontManager::textScaleChanged, this,
+            [this] { m_text->setFontToken(m_textToken, true); });
 }
 
 KaAlertBanner::~KaAlertBanner() = default;
@@ -209,7 +213,10 @@ void KaAlertBanner::applyBannerStyle() {
     const bool wrap = m_styleMode == Wrapping;
     m_text->setAlignment((wrap ? Qt::AlignTop : Qt::AlignVCenter) | Qt::AlignLeading);
     m_text->setWordWrap(wrap);
-    m_text->setFontToken(wrap ? BzFont::BodySmall : BzFont::Control, true);
+    m_textToken = wrap ? BzFont::BodySmall : BzFont::Control;
+    m_text->setFontToken(m_textToken, true);
+    // Wrapped text keeps a readable column however wide the buttons get.
+    m_text->setMinimumWidth(wrap ? kMinimumWrapWidth : 0);
     if (m_alignment == TopAligned || m_alignment == TopAlignedAlt) {
         // One line is centred on the row; wrapped text starts at the top.
         const Qt::Alignment vertical = wrap ? Qt::AlignTop : Qt::AlignVCenter;
@@ -312,6 +319,7 @@ void KaAlertBanner::setTextFontToken(BzFont::Token token) {
         qWarning("KaAlertBanner::setTextFontToken: unknown font token %d ignored", int(token));
         return;
     }
+    m_textToken = token;
     m_text->setFontToken(token, true);
 }
 

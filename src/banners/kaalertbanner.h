@@ -155,6 +155,7 @@ private:
     QString m_backgroundToken;
     BannerStyleMode m_styleMode = Wrapping;
     KaAlertBannerTextAlignment m_alignment = TopAligned;
+    int m_textToken = BzFont::BodySmall;
     QMetaObject::Connection m_hideConnection;
     bool m_hideOnDismiss = false;
 };

@@ -6,6 +6,7 @@
 #include "kasvglabel.h"
 
 #include <bzfont.h>
+#include <bzfontmanager.h>
 #include <bzsvgpushbutton.h>
 #include <bzthemeutils.h>
 
@@ -67,6 +68,10 @@ KaDiscoverabilityBanner::KaDiscoverabilityBanner(QWidget* parent,
         m_type = KaDiscoverabilityEnum::NewFeature;
     }
     initialize();
+    connect(BzFontManager::instance(), &BzFontManager::textScaleChanged, this, [this] {
+        m_text->setFontToken(BzFont::BodySmall, true);
+        updateText();
+    });
 }
 
 KaDiscoverabilityBanner::~KaDiscoverabilityBanner() = default;

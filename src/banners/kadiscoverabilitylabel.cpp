@@ -6,6 +6,7 @@
 #include "kasvglabel.h"
 
 #include <bzfont.h>
+#include <bzfontmanager.h>
 #include <bzthemeutils.h>
 
 #include <QAccessibleWidget>
@@ -72,6 +73,10 @@ KaDiscoverabilityLabel::KaDiscoverabilityLabel(QWidget* parent)
     layout->addWidget(m_icon, 0, Qt::AlignVCenter);
     layout->addWidget(m_text, 0, Qt::AlignVCenter);
     initialize();
+    connect(BzFontManager::instance(), &BzFontManager::textScaleChanged, this, [this] {
+        m_text->setFontToken(BzFont::Caption, true);
+        adjustSize();
+    });
 }
 
 KaDiscoverabilityLabel::~KaDiscoverabilityLabel() = default;
