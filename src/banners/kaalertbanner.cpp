@@ -1,6 +1,7 @@
 #include "kaalertbanner.h"
 
 #include "kacolortokenutils.h"
+#include "kaconfig.h"
 #include "kalabel.h"
 #include "kapillbutton.h"
 #include "kasvglabel.h"
@@ -283,8 +284,19 @@ void KaAlertBanner::applyColours() {
     own.borderRadius = m_styleMode == Wrapping ? kWrappedRadius : kLineRadius;
     // The tint is the colour set's first colour whatever the banner's state.
     own.setSwitch(BzCSSData::FollowState, 0);
+    // High-contrast tints may match the window; an outline keeps the strip visible.
+    if (KaConfig::highContrast && !textToken.isEmpty()) {
+        own.borderColorSet = textToken;
+        own.setBorders(true);
+    }
     setCSS(own);
     setProperty("focusBorderRadius", double(own.borderRadius + 1));
+}
+
+void KaAlertBanner::onThemeChanged() {
+    // The high-contrast flag may have changed with the theme.
+    applyColours();
+    BzWidget::onThemeChanged();
 }
 
 void KaAlertBanner::setText(const QString& text, const QString& accessibleName) {

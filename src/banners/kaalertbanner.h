@@ -43,7 +43,7 @@ public:
     //   Away            away presence      banner-style-announcement-*
     //   Transient       room lights        banner-style-transient-*
     // Any other value shows no icon and paints no background.
-    enum KaAlertBannerType {
+    enum KaAlertBannerType : int {
         Error = 0,
         Issue = 1,
         Success = 2,
@@ -58,14 +58,19 @@ public:
     //   Wrapping    top      on    BodySmall   4, 4, 4, 4            8
     //   SingleLine  centred  off   Control     4, 6, 4, 6            14
     //   Compact     centred  off   Control     4, 3, 8, 3            14
-    enum BannerStyleMode { Wrapping = 0, SingleLine = 1, Compact = 2 };
+    enum BannerStyleMode : int { Wrapping = 0, SingleLine = 1, Compact = 2 };
     Q_ENUM(BannerStyleMode)
 
     // TopAligned and TopAlignedAlt: icon, text and buttons at the top, the
     // dismiss cross centred vertically. Centered: the row centred as a whole.
     // CenteredContent: icon, text and buttons centred between two stretches,
     // the cross at the trailing edge.
-    enum KaAlertBannerTextAlignment { TopAligned = 0, TopAlignedAlt = 1, Centered = 2, CenteredContent = 3 };
+    enum KaAlertBannerTextAlignment : int {
+        TopAligned = 0,
+        TopAlignedAlt = 1,
+        Centered = 2,
+        CenteredContent = 3
+    };
     Q_ENUM(KaAlertBannerTextAlignment)
 
     explicit KaAlertBanner(QWidget* parent = nullptr, KaAlertBannerType type = Announcement,
@@ -125,6 +130,9 @@ public:
     // Whether the dismiss cross also hides the banner (off by default).
     void setHideOnDismiss(bool hide);
     bool hideOnDismiss() const { return m_hideOnDismiss; }
+
+public Q_SLOTS:
+    void onThemeChanged() override;
 
 Q_SIGNALS:
     void bannerLinkClicked(const QString& link);

@@ -23,7 +23,7 @@ class KARVEX_EXPORT KaProgressBar : public QWidget {
 
 public:
     // Track thickness: Small 2, Medium 4, Large 6 pixels.
-    enum BarSize { Small = 0, Medium = 1, Large = 2 };
+    enum BarSize : int { Small = 0, Medium = 1, Large = 2 };
     Q_ENUM(BarSize)
 
     explicit KaProgressBar(QWidget* parent = nullptr);

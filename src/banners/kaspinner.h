@@ -20,7 +20,7 @@ public:
     //   Medium      24        3
     //   Large       32        3
     //   ExtraLarge  48        4
-    enum SpinnerSize { Small = 0, Medium = 1, Large = 2, ExtraLarge = 3 };
+    enum SpinnerSize : int { Small = 0, Medium = 1, Large = 2, ExtraLarge = 3 };
     Q_ENUM(SpinnerSize)
 
     explicit KaSpinner(QWidget* parent = nullptr, SpinnerSize size = Medium);

@@ -255,6 +255,11 @@ void tst_KaAlertBanner::themeSwitchRecolours() {
     QVERIFY(dark != colorOf("banner-style-transient-background", BzThemeUtils::Light));
     switchTheme("dark");
     QTRY_COMPARE(pixelAt(&banner, inside), dark);
+    // In high contrast the strip is outlined in its text colour.
+    const HighContrastScope contrast(true);
+    switchTheme("highContrast");
+    QTRY_COMPARE(pixelAt(&banner, QPoint(150, 1)),
+                 colorOf("banner-style-transient-text", BzThemeUtils::HighContrast));
 }
 
 void tst_KaAlertBanner::keyboardFocusRing_data() {
