@@ -10,33 +10,11 @@ using Type = KaDiscoverabilityEnum::DiscoverabilityLabelType;
 class tst_KaDiscoverabilityWidget : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void badgeTypes_data();
-    void badgeTypes();
     void otherTypesChangeNothing_data();
     void otherTypesChangeNothing();
     void pinnedToTopRight();
     void deletedBadge();
 };
-
-void tst_KaDiscoverabilityWidget::badgeTypes_data() {
-    QTest::addColumn<int>("type");
-    QTest::newRow("IconWithBorder") << int(KaDiscoverabilityEnum::IconWithBorder);
-    QTest::newRow("IconBadge") << int(KaDiscoverabilityEnum::IconBadge);
-}
-
-void tst_KaDiscoverabilityWidget::badgeTypes() {
-    QFETCH(int, type);
-    KaDiscoverabilityWidget widget;
-    widget.resize(120, 40);
-    if (type == widget.badgeType())
-        widget.setBadgeType(KaDiscoverabilityEnum::IconWithBorder);
-    QSignalSpy spy(&widget, &KaDiscoverabilityWidget::badgeTypeChanged);
-    widget.setBadgeType(Type(type));
-    QCOMPARE(spy.count(), 1);
-    auto* badge = widget.findChild<KaDiscoverabilityLabel*>(QStringLiteral("discoverabilityBadge"));
-    QVERIFY(badge);
-    QCOMPARE(int(badge->labelType()), type);
-}
 
 void tst_KaDiscoverabilityWidget::otherTypesChangeNothing_data() {
     QTest::addColumn<int>("type");
@@ -70,7 +48,11 @@ void tst_KaDiscoverabilityWidget::pinnedToTopRight() {
     content->setGeometry(0, 0, 120, 40);
     widget->setGeometry(10, 10, 120, 40);
     QVERIFY(shown(window));
-    KaDiscoverabilityLabel* badge = widget->badge();
+    QSignalSpy spy(widget, &KaDiscoverabilityWidget::badgeTypeChanged);
+    widget->setBadgeType(KaDiscoverabilityEnum::IconWithBorder);
+    QCOMPARE(spy.count(), 1);
+    auto* badge = widget->findChild<KaDiscoverabilityLabel*>(QStringLiteral("discoverabilityBadge"));
+    QCOMPARE(badge->labelType(), KaDiscoverabilityEnum::IconWithBorder);
     QVERIFY(!badge->isVisible());
     widget->showDiscoverabilityBadge(true);
     QVERIFY(badge->isVisible());

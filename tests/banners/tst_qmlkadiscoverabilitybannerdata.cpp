@@ -15,7 +15,6 @@ private Q_SLOTS:
     void badInput_data();
     void badInput();
     void createdBannerFollowsDescription();
-    void readableByName();
 };
 
 void tst_QmlKaDiscoverabilityBannerData::badInput_data() {
@@ -73,18 +72,6 @@ void tst_QmlKaDiscoverabilityBannerData::createdBannerFollowsDescription() {
     QVERIFY(orphan);
     orphan->findChild<BzSvgPushButton*>(QStringLiteral("dismissButton"))->click();
     QVERIFY(!orphan->isVisible());
-}
-
-// QML reads and writes the properties by name, the kind included.
-void tst_QmlKaDiscoverabilityBannerData::readableByName() {
-    QmlKaDiscoverabilityBannerData data;
-    QSignalSpy spy(&data, &QmlKaDiscoverabilityBannerData::bannerTypeChanged);
-    QVERIFY(data.setProperty("bannerType", QVariant::fromValue(KaDiscoverabilityEnum::TipHelp)));
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(data.property("bannerType").value<KaDiscoverabilityEnum::DiscoverabilityLabelType>(),
-             KaDiscoverabilityEnum::TipHelp);
-    QVERIFY(data.setProperty("bannerText", QStringLiteral("Blur")));
-    QCOMPARE(data.bannerText(), QStringLiteral("Blur"));
 }
 
 QTEST_MAIN(tst_QmlKaDiscoverabilityBannerData)
