@@ -101,11 +101,7 @@ QString KaDiscoverabilityBanner::getIconColour(int type) {
 void KaDiscoverabilityBanner::initialize() {
     setObjectName(QStringLiteral("KaDiscoverabilityBanner"));
     setFixedWidth(m_width);
-    BzCSSData record;
-    record.backgroundColorSet = KaColorTokenUtils::tokenToString(Karvox::newFeature_banner_background);
-    record.borderRadius = 8;
-    record.setSwitch(BzCSSData::FollowState, 0);
-    setCSS(record);
+    applyRecord();
 
     BzCSSData transparent;
     transparent.backgroundColorSet = BzThemeUtils::transparentColourSet().name();
@@ -145,6 +141,19 @@ void KaDiscoverabilityBanner::initialize() {
 
     connect(m_dismiss, &QAbstractButton::clicked, this, &KaDiscoverabilityBanner::onDismissed);
     updateText();
+}
+
+void KaDiscoverabilityBanner::applyRecord() {
+    BzCSSData record;
+    record.backgroundColorSet = KaColorTokenUtils::tokenToString(Karvox::newFeature_banner_background);
+    record.borderRadius = 8;
+    record.setSwitch(BzCSSData::FollowState, 0);
+    // High contrast paints the tip like the window; an outline keeps it apart.
+    if (KaConfig::highContrast) {
+        record.borderColorSet = KaColorTokenUtils::tokenToString(Karvox::newFeature_banner_text);
+        record.setBorders(true);
+    }
+    setCSS(record);
 }
 
 QString KaDiscoverabilityBanner::getDisplayText(const QString& text) const {
@@ -198,6 +207,7 @@ void KaDiscoverabilityBanner::setBannerWidth(int width) {
 }
 
 void KaDiscoverabilityBanner::onThemeChanged() {
+    applyRecord();
     BzWidget::onThemeChanged();
     updateText();
 }

@@ -64,6 +64,7 @@ Q_SIGNALS:
 
 private:
     void initialize();
+    void applyRecord();
     void onDismissed();
     void updateText();
 

@@ -164,6 +164,11 @@ void tst_KaDiscoverabilityBanner::themeSwitchRecolours() {
     // The caption's accent follows as well.
     const QString accent = colorOf("newFeature-banner-newFeatureIcon", BzThemeUtils::Dark).name();
     QTRY_VERIFY(banner->findChild<KaLabelBase*>(QStringLiteral("bannerText"))->text().contains(accent));
+    // In high contrast the tip is outlined in its text colour.
+    const HighContrastScope contrast(true);
+    switchTheme("highContrast");
+    QTRY_COMPARE(pixelAt(banner, QPoint(150, 0)),
+                 colorOf("newFeature-banner-text", BzThemeUtils::HighContrast));
 }
 
 QTEST_MAIN(tst_KaDiscoverabilityBanner)
