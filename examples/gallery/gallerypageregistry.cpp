@@ -1,6 +1,7 @@
 #include "gallerypageregistry.h"
 
 #include "avatarspage.h"
+#include "bannerspage.h"
 #include "buttonspage.h"
 #include "focuspage.h"
 #include "foundationpage.h"
@@ -34,6 +35,8 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
         {QStringLiteral("selection"), QT_TRANSLATE_NOOP("GalleryPages", "Selection"), &create<SelectionPage>},
         {QStringLiteral("avatars"), QT_TRANSLATE_NOOP("GalleryPages", "Avatars and badges"),
          &create<AvatarsPage>},
+        {QStringLiteral("banners"), QT_TRANSLATE_NOOP("GalleryPages", "Banners and feedback"),
+         &create<BannersPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };

@@ -39,6 +39,14 @@ void BzWidget::setFontToken(int token, bool scaled) {
     Q_EMIT fontTokenChanged();
 }
 
+void BzWidget::setFrameInset(int pixels) {
+    pixels = qMax(0, pixels);
+    if (pixels == m_frameInset)
+        return;
+    m_frameInset = pixels;
+    update();
+}
+
 void BzWidget::onThemeChanged() {
     themeApplied(m_theme->refreshAfterThemeRefresh(this));
 }
@@ -62,5 +70,6 @@ void BzWidget::paintEvent(QPaintEvent*) {
     if (m_theme->isEmpty())
         return;
     QPainter painter(this);
-    m_theme->paintFrame(&painter, rect(), bzWidgetState(this));
+    const int i = m_frameInset;
+    m_theme->paintFrame(&painter, rect().adjusted(i, i, -i, -i), bzWidgetState(this));
 }

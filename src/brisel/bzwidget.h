@@ -31,6 +31,10 @@ public:
     int fontToken() const { return m_fontToken; }
     void setFontToken(int token, bool scaled = false);
 
+    // Pixels the painted frame keeps clear on every side (0 by default).
+    int frameInset() const { return m_frameInset; }
+    void setFrameInset(int pixels);
+
 public Q_SLOTS:
     virtual void onThemeChanged();
 
@@ -46,4 +50,5 @@ private:
     void themeApplied(bool changed);
     std::unique_ptr<BzWidgetTheme> m_theme;
     int m_fontToken = -1;
+    int m_frameInset = 0;
 };

@@ -1,15 +1,22 @@
 #include "kaconfig.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QMetaObject>
 #include <QWidget>
 
 namespace KaConfig {
 
 bool highContrast = false;
+bool discoverabilityTagBorder = false;
 
 namespace {
 bool g_reducedMotion = false;
+
+QString& caption() {
+    static QString text;
+    return text;
+}
 } // namespace
 
 void setIsHighContrast(bool enabled) {
@@ -31,6 +38,20 @@ void setReducedMotion(bool enabled) {
 
 bool reducedMotion() {
     return g_reducedMotion;
+}
+
+void setDiscoverabilityCaption(const QString& text) {
+    caption() = text;
+}
+
+QString discoverabilityCaption() {
+    if (!caption().isEmpty())
+        return caption();
+    return QCoreApplication::translate("KaConfig", "New");
+}
+
+void setDiscoverabilityTagBorder(bool enabled) {
+    discoverabilityTagBorder = enabled;
 }
 
 } // namespace KaConfig

@@ -2,6 +2,8 @@
 
 #include "karvex_export.h"
 
+#include <QString>
+
 // Process-wide settings of the library. GUI thread only.
 namespace KaConfig {
 
@@ -19,5 +21,19 @@ KARVEX_EXPORT extern bool highContrast;
 // slot through a queued call, so hosts need not refresh anything.
 KARVEX_EXPORT void setReducedMotion(bool enabled);
 KARVEX_EXPORT bool reducedMotion();
+
+// The caption of "new" tags and of new-feature tips. Until the host sets one
+// it is the library's own "New", translated ("KaConfig" context) each time it
+// is read, so an installed translator applies. An empty text restores that
+// default. Components read it when built and in onThemeChanged(), so after a
+// change call KarvexUtils::updateSolvaneThemes().
+KARVEX_EXPORT void setDiscoverabilityCaption(const QString& caption);
+KARVEX_EXPORT QString discoverabilityCaption();
+
+// Tags (KaDiscoverabilityLabel's two tag looks) draw a visible border when
+// this is set or the high-contrast flag is; off by default. Same refresh
+// rule as above.
+KARVEX_EXPORT void setDiscoverabilityTagBorder(bool enabled);
+KARVEX_EXPORT extern bool discoverabilityTagBorder;
 
 } // namespace KaConfig

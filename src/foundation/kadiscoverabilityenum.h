@@ -8,7 +8,8 @@
 namespace KaDiscoverabilityEnum {
 Q_NAMESPACE_EXPORT(KARVEX_EXPORT)
 
-enum DiscoverabilityLabelType {
+// Fixed to int: values from outside the table (QML, casts) stay well defined.
+enum DiscoverabilityLabelType : int {
     IconWithTextTag = 0,
     IconTag = 1,
     IconWithBorder = 2,
