@@ -4,6 +4,7 @@
 
 #include <bzfont.h>
 #include <bzwidget.h>
+#include <kabadgetabview.h>
 #include <kalabelbase.h>
 #include <kapagenavigation.h>
 #include <kapillbutton.h>
@@ -120,6 +121,18 @@ void NavigationPage::addTabSection() {
     m_overflow->setCurrentIndex(0);
     m_overflow->setFixedWidth(380);
     contentLayout()->addWidget(m_overflow);
+
+    // Outside m_captions, whose order the pager captions rely on.
+    m_badgeCaption = GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::BodySmall);
+    contentLayout()->addWidget(m_badgeCaption);
+    m_badges = new KaBadgeTabView;
+    for (const SectionTab& tab : kSectionTabs)
+        m_badges->addTab(QString(), QString::fromLatin1(tab.icon), tab.type);
+    m_badges->setCount(0, 3);
+    m_badges->setCount(1, 120);
+    m_badges->badgeTabAt(2)->setBadgeText(QStringLiteral("New"));
+    m_badges->setIconBadge(3, IconBadgeMention);
+    contentLayout()->addWidget(m_badges, 0, Qt::AlignLeft);
 
     contentLayout()->addWidget(caption());
     KaTabView* disabled = sectionTabs(KaButtonEnum::Normal, KaTabEnum::EXPANDED);
@@ -238,6 +251,11 @@ void NavigationPage::retranslateUi() {
     for (int i = 0; i < m_overflow->count(); ++i)
         m_overflow->tabAt(i)->setText(tr("Channel %1").arg(i + 1));
     m_overflow->setAccessibleName(tr("Channels"));
+    m_badgeCaption->setText(tr("With badges: a count, a count over the cap, a word and an icon"));
+    for (int i = 0; i < m_badges->count(); ++i)
+        m_badges->tabAt(i)->setText(tr(kSectionTabs[i].text));
+    m_badges->badgeTabAt(2)->setBadgeText(tr("New"));
+    m_badges->setAccessibleName(tr("Sections with news"));
     m_addTab->setText(tr("Add tab"));
     for (int i = 0; i < m_pagers.size(); ++i)
         showPage(i, m_pagers[i].navigation->pageIndex());

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QPointer>
 
+class KaBadgeTabView;
 class KaLabelBase;
 class KaPageNavigation;
 class KaPillButton;
@@ -43,6 +44,8 @@ private:
     QList<KaTabView*> m_sectionViews;
     KaTabView* m_closable = nullptr;
     KaTabView* m_overflow = nullptr;
+    KaBadgeTabView* m_badges = nullptr;
+    KaLabelBase* m_badgeCaption = nullptr;
     KaPillButton* m_addTab = nullptr;
     int m_openedTabs = 0;
     QList<Pager> m_pagers;
