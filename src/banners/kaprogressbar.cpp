@@ -1,6 +1,7 @@
 #include "kaprogressbar.h"
 
 #include "kacolortokenutils.h"
+#include "kaconfig.h"
 
 #include <bzthemeutils.h>
 #include <drawutils.h>
@@ -220,11 +221,19 @@ void KaProgressBar::hideEvent(QHideEvent* event) {
     updateTimer();
 }
 
+void KaProgressBar::onReducedMotionChanged() {
+    updateTimer();
+    update();
+}
+
 void KaProgressBar::updateTimer() {
-    if (m_indeterminate && isVisible())
+    if (m_indeterminate && isVisible() && !KaConfig::reducedMotion()) {
         m_timer.start(kFrameMs, this);
-    else
-        m_timer.stop();
+        return;
+    }
+    m_timer.stop();
+    if (KaConfig::reducedMotion())
+        m_phase = 0.5;
 }
 
 void KaProgressBar::timerEvent(QTimerEvent* event) {

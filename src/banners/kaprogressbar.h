@@ -58,6 +58,8 @@ public:
 
 public Q_SLOTS:
     void onThemeChanged();
+    // Under reduced motion the indeterminate segment rests in the middle.
+    void onReducedMotionChanged();
 
 Q_SIGNALS:
     void rangeChanged();

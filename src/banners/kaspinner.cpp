@@ -1,6 +1,7 @@
 #include "kaspinner.h"
 
 #include "kacolortokenutils.h"
+#include "kaconfig.h"
 #include "karvexutils.h"
 
 #include <bzthemeutils.h>
@@ -132,14 +133,25 @@ void KaSpinner::changeEvent(QEvent* event) {
 
 void KaSpinner::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    m_timer.start(kFrameMs, this);
+    updateTimer();
     const QString name = accessibleName().isEmpty() ? defaultName() : accessibleName();
     KarvexUtils::announce(this, name);
 }
 
 void KaSpinner::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
-    m_timer.stop();
+    updateTimer();
+}
+
+void KaSpinner::onReducedMotionChanged() {
+    updateTimer();
+}
+
+void KaSpinner::updateTimer() {
+    if (isVisible() && !KaConfig::reducedMotion())
+        m_timer.start(kFrameMs, this);
+    else
+        m_timer.stop();
 }
 
 void KaSpinner::timerEvent(QTimerEvent* event) {

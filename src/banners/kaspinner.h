@@ -39,6 +39,8 @@ public:
 
 public Q_SLOTS:
     void onThemeChanged();
+    // Under reduced motion the arc rests where it is.
+    void onReducedMotionChanged();
 
 Q_SIGNALS:
     void spinnerSizeChanged();
@@ -52,6 +54,7 @@ protected:
 
 private:
     void resolveColours();
+    void updateTimer();
 
     QBasicTimer m_timer;
     QColor m_track;

@@ -1,5 +1,6 @@
 #include "accessibilityrecorder.h"
 #include "buttontestutils.h"
+#include "kaconfig.h"
 #include "kaspinner.h"
 #include "testhelpers.h"
 
@@ -93,6 +94,12 @@ void tst_KaSpinner::ticksOnlyWhileVisible() {
     const int stopped = visibleWatch.ticks;
     QTRY_VERIFY(hiddenWatch.ticks >= 3);
     QCOMPARE(visibleWatch.ticks, stopped);
+
+    // Reduced motion stops a visible spinner too, until it is lifted.
+    KaConfig::setReducedMotion(true);
+    QTRY_VERIFY(!hidden->isSpinning());
+    KaConfig::setReducedMotion(false);
+    QTRY_VERIFY(hidden->isSpinning());
 }
 
 // Turning repaints the spinner's square and nothing else of the window.
