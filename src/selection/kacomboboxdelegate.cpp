@@ -1,0 +1,136 @@
+#include "kacomboboxdelegate.h"
+
+#include "kacolortokenutils.h"
+#include "karvoxtoken.h"
+
+#include <apputils.h>
+#include <bzsvgrenderer.h>
+#include <bzthememanager.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOptionFocusRect>
+
+namespace {
+constexpr int kMinimumRowHeight = 40;
+constexpr int kInset = 5;
+constexpr int kTextMargin = 12;
+constexpr int kIconGap = 24;
+} // namespace
+
+KaComboBoxDelegate::KaComboBoxDelegate(QObject* parent)
+    : QStyledItemDelegate(parent)
+    , m_textColorSetName(KaColorTokenUtils::tokenToString(Karvox::combobox_text))
+    , m_backgroundColorSetName(KaColorTokenUtils::tokenToString(Karvox::combobox_background))
+    , m_checkIcon(new BzSvgRenderer(this))
+    , m_comboBox(qobject_cast<QComboBox*>(parent)) {
+    m_checkIcon->loadIconResource(QStringLiteral("check-regular"));
+}
+
+void KaComboBoxDelegate::setDrawIcon(bool drawIcon) {
+    m_drawIcon = drawIcon;
+}
+
+void KaComboBoxDelegate::setFont(const BzFont& font) {
+    m_font = font;
+}
+
+void KaComboBoxDelegate::setIconResource(const QString& resource) {
+    m_iconResource = resource;
+}
+
+void KaComboBoxDelegate::setItemIconSize(const QSize& size) {
+    m_itemIconSize = size;
+}
+
+void KaComboBoxDelegate::setItemRadius(int radius) {
+    m_itemRadius = radius;
+}
+
+void KaComboBoxDelegate::setThemeType(BzThemeUtils::AppThemeType type) {
+    m_themeType = type;
+}
+
+void KaComboBoxDelegate::resolveColours() const {
+    const quint64 generation = BzThemeManager::instance()->generation();
+    if (m_resolvedGeneration == generation && m_resolvedType == int(m_themeType))
+        return;
+    m_resolvedGeneration = generation;
+    m_resolvedType = int(m_themeType);
+    m_textColors = BzThemeUtils::getColorSet(m_textColorSetName, m_themeType);
+    m_backgroundColors = BzThemeUtils::getColorSet(m_backgroundColorSetName, m_themeType);
+    m_iconColors =
+        BzThemeUtils::getColorSet(KaColorTokenUtils::tokenToString(Karvox::combobox_icon), m_themeType);
+}
+
+bool KaComboBoxDelegate::isSelected(const QModelIndex& index) const {
+    return m_comboBox && index.isValid() && m_comboBox->currentIndex() == index.row();
+}
+
+QSize KaComboBoxDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    QSize hint = QStyledItemDelegate::sizeHint(option, index);
+    hint.setHeight(std::max(hint.height(), kMinimumRowHeight));
+    return hint;
+}
+
+void KaComboBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const {
+    resolveColours();
+    const QRect r = option.rect;
+    const QRect inset = r.adjusted(kInset, kInset, -kInset, -kInset);
+
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    QPainterPath path;
+    path.addRoundedRect(QRectF(inset), m_itemRadius, m_itemRadius);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(m_backgroundColors.colorFor(option.state));
+    painter->drawPath(path.simplified());
+    painter->restore();
+
+    if (auto* widget = const_cast<QWidget*>(option.widget)) {
+        const int shift = AppUtils::isRTLLayoutDirection() ? widget->width() - r.width() - 1 : 1;
+        QStyleOptionFocusRect focus;
+        focus.initFrom(widget);
+        focus.rect = inset.adjusted(shift + 1, 1, shift - 1, -1);
+        // The focus ring reads it to ring the row instead of the view.
+        if (!widget->property("hasCustomRect").toBool())
+            widget->setProperty("hasCustomRect", true);
+        if (qApp->property("isKeyboardFocus").toBool() && (option.state & QStyle::State_HasFocus) &&
+            (option.state & QStyle::State_KeyboardFocusChange))
+            QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, widget);
+    }
+
+    painter->save();
+    painter->setFont(m_font);
+    painter->setRenderHint(QPainter::Antialiasing);
+
+    const bool rtl = option.direction == Qt::RightToLeft;
+    const bool mark = m_drawIcon && isSelected(index);
+    const int trailing = mark ? kIconGap + m_itemIconSize.width() : kTextMargin;
+    QRect textRect =
+        rtl ? r.adjusted(trailing, 0, -kTextMargin, 0) : r.adjusted(kTextMargin, 0, -trailing, 0);
+    if (!m_drawIcon) {
+        if (rtl)
+            textRect.setLeft(r.left());
+        else
+            textRect.setRight(r.right());
+    }
+    const QString text = index.model() ? index.data(Qt::DisplayRole).toString() : QString();
+    const QString elided = QFontMetrics(m_font).elidedText(text, Qt::ElideRight, textRect.width());
+    painter->setPen(m_textColors.colorFor(option.state));
+    painter->drawText(
+        textRect, int(QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter)), elided);
+
+    if (mark) {
+        const int top = r.top() + (r.height() - m_itemIconSize.height()) / 2;
+        const int x = rtl ? r.left() + kTextMargin : r.right() - kTextMargin - m_itemIconSize.width();
+        if (!m_iconResource.isEmpty())
+            m_checkIcon->updateIconResource(m_iconResource);
+        m_checkIcon->draw(painter, QRectF(QPointF(x, top), QSizeF(m_itemIconSize)),
+                          m_iconColors.colorFor(option.state), 1.0);
+    }
+    painter->restore();
+}
