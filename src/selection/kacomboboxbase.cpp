@@ -6,6 +6,8 @@
 #include <bzscaledfont.h>
 
 #include <QAbstractItemView>
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QFrame>
@@ -38,15 +40,72 @@ QString px(int value) {
     return QString::number(value) + QLatin1String("px");
 }
 
+// Named by its accessible name like any other control (Qt's own interface
+// names a combo box after its current text); the value is the current text,
+// and the list is its one child.
+class KaComboBoxAccessible : public QAccessibleWidget {
+public:
+    explicit KaComboBoxAccessible(KaComboBoxBase* combo)
+        : QAccessibleWidget(combo, QAccessible::ComboBox) {}
+
+    KaComboBoxBase* combo() const { return static_cast<KaComboBoxBase*>(widget()); }
+
+    int childCount() const override { return 1; }
+    QAccessibleInterface* child(int index) const override {
+        return index == 0 ? QAccessible::queryAccessibleInterface(combo()->view()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return child && child->object() == combo()->view() ? 0 : -1;
+    }
+    QString text(QAccessible::Text t) const override {
+        if (t == QAccessible::Value)
+            return combo()->currentText();
+        const QString text = QAccessibleWidget::text(t);
+        if (t == QAccessible::Name && text.isEmpty())
+            return combo()->currentText();
+        return text;
+    }
+    QAccessible::State state() const override {
+        QAccessible::State s = QAccessibleWidget::state();
+        s.expandable = combo()->showPopupEnabled();
+        s.expanded = combo()->isExpanded();
+        s.collapsed = !combo()->isExpanded();
+        s.editable = combo()->isEditable();
+        return s;
+    }
+    QStringList actionNames() const override { return {showMenuAction(), pressAction()}; }
+    void doAction(const QString& name) override {
+        if (name != showMenuAction() && name != pressAction())
+            return;
+        if (combo()->isExpanded())
+            combo()->hidePopup();
+        else
+            combo()->showPopup();
+    }
+};
+
+QAccessibleInterface* accessibleFactory(const QString&, QObject* object) {
+    if (auto* combo = qobject_cast<KaComboBoxBase*>(object))
+        return new KaComboBoxAccessible(combo);
+    return nullptr;
+}
+
 } // namespace
 
 KaComboBoxBase::KaComboBoxBase(QWidget* parent)
     : QComboBox(parent) {
+    static const bool accessibleFactoryInstalled = [] {
+        QAccessible::installFactory(accessibleFactory);
+        return true;
+    }();
+    Q_UNUSED(accessibleFactoryInstalled)
     // The style sheet names the widget by object name.
     if (objectName().isEmpty())
         setObjectName(QStringLiteral("KaComboBoxBase"));
     QComboBox::setFont(BzFont(BzFont::Body, false));
     updateFont();
+    // The focus ring follows the frame's corners.
+    setProperty("focusBorderRadius", kFrameRadius);
 
     const BzThemeUtils::AppThemeType type = themeTypeValue();
     m_backgroundColorSet = BzThemeUtils::getColorSet("kv-orbis-combobox-background", type);
@@ -144,7 +203,7 @@ QString KaComboBoxBase::buildFrameSheet(const BzCSSData& record) const {
     const auto colour = [](const BzColorSet& set, BzColorSet::State state) {
         return BzThemeUtils::colorToCss(set.color(state));
     };
-    const auto stateRule = [&](const char* pseudo, BzColorSet::State state) {
+    const auto stateRule = [&](const char* pseudo, BzColorSet::State state) -> QString {
         QString rule = selector + QLatin1String(pseudo) + QLatin1String(" {");
         if (background)
             rule +=
