@@ -77,6 +77,7 @@ bench)
     QT_QPA_PLATFORM=offscreen build/bench/bench_themeswitch
     QT_QPA_PLATFORM=offscreen build/bench/bench_buttons
     QT_QPA_PLATFORM=offscreen build/bench/bench_labels
+    QT_QPA_PLATFORM=offscreen build/bench/bench_combobox
     ;;
 *)
     echo "usage: $0 gallery|test|bench" >&2

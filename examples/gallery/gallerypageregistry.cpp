@@ -5,6 +5,7 @@
 #include "foundationpage.h"
 #include "iconspage.h"
 #include "popupspage.h"
+#include "selectionpage.h"
 #include "textinputpage.h"
 #include "tokenspage.h"
 
@@ -26,6 +27,7 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
         {QStringLiteral("buttons"), QT_TRANSLATE_NOOP("GalleryPages", "Buttons"), &create<ButtonsPage>},
         {QStringLiteral("textinput"), QT_TRANSLATE_NOOP("GalleryPages", "Text input"),
          &create<TextInputPage>},
+        {QStringLiteral("selection"), QT_TRANSLATE_NOOP("GalleryPages", "Selection"), &create<SelectionPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };

@@ -4,6 +4,7 @@
 
 #include <apputils.h>
 #include <bzscaledfont.h>
+#include <bzthememanager.h>
 
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -151,6 +152,8 @@ BzThemeUtils::AppThemeType KaComboBoxBase::themeTypeValue() const {
 
 void KaComboBoxBase::setCSS(const QString& css) {
     m_css = css;
+    if (!m_applyingCustomCSS)
+        m_appliedSheet.clear();
     const BzThemeUtils::AppThemeType type = themeTypeValue();
     const BzCSSData parsed = BzThemeUtils::parseCSS(this, css, BzThemeUtils::getAppWColorSets());
     for (int i = 0; i < BzCSSData::SwitchCount; ++i)
@@ -451,13 +454,25 @@ void KaComboBoxBase::applyCustomCSS() {
             QLatin1String("color: ") + BzThemeUtils::colorToCss(m_textColorSet.normal()) + QLatin1Char(';');
         viewSheet += QLatin1String("}");
         viewSheet += KaScrollbarUtils::getScrollBarStyleSheet(KaScrollbarEnum::Normal, type, Qt::Vertical);
-        // Re-polishing a long list is not free: only when the look changed.
-        if (list->styleSheet() != viewSheet) {
-            list->setStyleSheet(viewSheet);
-            list->style()->unpolish(list);
-            list->style()->polish(list);
-        }
+        // Re-polishing a list costs as much as restyling the combo itself:
+        // a closed list takes its new look when it opens next.
+        m_pendingViewSheet = viewSheet;
+        if (list->isVisible() || list->styleSheet().isEmpty())
+            applyViewSheet();
     }
+
+    // Shown and hidden lists ask again; an unchanged look costs nothing.
+    const quint64 generation = BzThemeManager::instance()->generation();
+    const QString themeKey = QString::number(generation) + QLatin1Char('/') + m_themeType +
+                             QLatin1Char(m_cssSwitches[0] ? '1' : '0') +
+                             QLatin1Char(m_cssSwitches[1] ? '1' : '0') + m_backgroundColorSet.name() +
+                             m_borderColorSet.name() + m_textColorSet.name();
+    if (sheet == m_appliedSheet && themeKey == m_appliedThemeKey) {
+        update();
+        return;
+    }
+    m_appliedSheet = sheet;
+    m_appliedThemeKey = themeKey;
 
     BzCSSData record;
     record.backgroundColorSet = m_backgroundColorSet.name();
@@ -467,8 +482,22 @@ void KaComboBoxBase::applyCustomCSS() {
         record.switches[size_t(i)] = m_cssSwitches[size_t(i)] ? 1 : 0;
     record.borderRadius = kFrameRadius;
     record.extraCSS = sheet;
+    m_applyingCustomCSS = true;
     setCSS(record);
+    m_applyingCustomCSS = false;
     update();
+}
+
+void KaComboBoxBase::applyViewSheet() {
+    QAbstractItemView* list = view();
+    if (!list || m_pendingViewSheet.isEmpty())
+        return;
+    if (list->styleSheet() != m_pendingViewSheet) {
+        list->setStyleSheet(m_pendingViewSheet);
+        list->style()->unpolish(list);
+        list->style()->polish(list);
+    }
+    m_pendingViewSheet.clear();
 }
 
 void KaComboBoxBase::installViewFilters() {
@@ -728,6 +757,7 @@ void KaComboBoxBase::showPopup() {
     m_expanded = true;
     resetRowTexts();
     updateRowTexts(currentIndex());
+    applyViewSheet();
 
     const bool animate = QApplication::isEffectEnabled(Qt::UI_AnimateCombo);
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, m_animateComboBox);
@@ -804,10 +834,21 @@ QString KaComboBoxBase::wrapText(const QString& text, int width, const QFontMetr
     qsizetype pos = 0;
     const qsizetype length = text.size();
     while (pos < length) {
-        // The longest prefix of the rest that fits, at least one character.
-        qsizetype end = pos + 1;
-        while (end < length && metrics.horizontalAdvance(text.mid(pos, end + 1 - pos)) <= width)
-            ++end;
+        // The longest prefix of the rest that fits, at least one character;
+        // advances grow with the prefix, so it is found by bisection.
+        qsizetype fits = 1;
+        qsizetype tooLong = length - pos + 1;
+        if (metrics.horizontalAdvance(text.mid(pos)) <= width)
+            fits = length - pos;
+        else
+            while (tooLong - fits > 1) {
+                const qsizetype middle = (fits + tooLong) / 2;
+                if (metrics.horizontalAdvance(text.mid(pos, middle)) <= width)
+                    fits = middle;
+                else
+                    tooLong = middle;
+            }
+        const qsizetype end = pos + fits;
         if (end >= length) {
             wrapped += text.mid(pos);
             break;
@@ -825,22 +866,49 @@ QString KaComboBoxBase::wrapText(const QString& text, int width, const QFontMetr
 void KaComboBoxBase::resetRowTexts() {
     QAbstractItemModel* rows = model();
     const int n = rows ? rows->rowCount(rootModelIndex()) : 0;
+    // What every row's texts depend on besides the row's own data: while
+    // it stays the same, rows described before keep their texts.
+    const RowTextsKey key{rows,    rootModelIndex(), modelColumn(),       currentIndex(), n,
+                          width(), font(),           m_popupItemIconSize, dropDownWidth()};
+    if (key == m_rowTextsKey && m_rowTextsDone.size() == size_t(n))
+        return;
+    m_rowTextsKey = key;
     m_rowTextsDone.assign(size_t(n), false);
     if (!rows)
         return;
     connect(rows, &QAbstractItemModel::modelReset, this, &KaComboBoxBase::onModelRowsChanged,
             Qt::UniqueConnection);
+    connect(rows, &QAbstractItemModel::layoutChanged, this, &KaComboBoxBase::onModelRowsChanged,
+            Qt::UniqueConnection);
     connect(rows, &QAbstractItemModel::rowsInserted, this, &KaComboBoxBase::onModelRowsChanged,
             Qt::UniqueConnection);
     connect(rows, &QAbstractItemModel::rowsRemoved, this, &KaComboBoxBase::onModelRowsChanged,
             Qt::UniqueConnection);
+    connect(rows, &QAbstractItemModel::rowsMoved, this, &KaComboBoxBase::onModelRowsChanged,
+            Qt::UniqueConnection);
+    connect(rows, &QAbstractItemModel::dataChanged, this, &KaComboBoxBase::onModelDataChanged,
+            Qt::UniqueConnection);
+}
+
+void KaComboBoxBase::onModelDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight) {
+    if (m_writingRowTexts || sender() != model() || topLeft.parent() != rootModelIndex())
+        return;
+    // A row's own texts changed: it is described again when next seen.
+    const int last = std::min(bottomRight.row(), int(m_rowTextsDone.size()) - 1);
+    for (int row = std::max(0, topLeft.row()); row <= last; ++row)
+        m_rowTextsDone[size_t(row)] = false;
+    if (m_expanded)
+        updateVisibleRowTexts();
 }
 
 void KaComboBoxBase::onModelRowsChanged() {
-    if (sender() != model() || !m_expanded)
+    if (sender() != model())
         return;
     // Positions and counts changed: every row is described again as it is
     // seen. The view lays itself out first.
+    m_rowTextsKey = RowTextsKey();
+    if (!m_expanded)
+        return;
     resetRowTexts();
     QMetaObject::invokeMethod(this, &KaComboBoxBase::updateVisibleRowTexts, Qt::QueuedConnection);
 }
@@ -887,8 +955,10 @@ void KaComboBoxBase::updateRowTexts(int row) {
             tip = wrapText(text, width(), metrics);
         description = tr("%1, %2 of %3").arg(state, QString::number(row + 1), QString::number(n));
     }
+    m_writingRowTexts = true;
     if (!tip.isEmpty() && index.data(Qt::ToolTipRole).toString() != tip)
         rows->setData(index, tip, Qt::ToolTipRole);
     if (index.data(Qt::AccessibleDescriptionRole).toString() != description)
         rows->setData(index, description, Qt::AccessibleDescriptionRole);
+    m_writingRowTexts = false;
 }

@@ -164,6 +164,7 @@ private:
     bool filterViewEvent(QEvent* event);
     bool filterOwnEvent(QEvent* event);
     void installViewFilters();
+    void applyViewSheet();
     void onHighlighted(int index);
     void onCurrentTextChanged(const QString& text);
     void showComboToolTip();
@@ -172,6 +173,7 @@ private:
     void updateRowTexts(int row);
     void connectParentThemeType();
     void onModelRowsChanged();
+    void onModelDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight);
     QString buildFrameSheet(const BzCSSData& record) const;
     BzThemeUtils::AppThemeType themeTypeValue() const;
 
@@ -201,6 +203,8 @@ private:
     QString m_selectedBackgroundColor;
     QString m_popupBackgroundColor;
 
+    // The list's style sheet, waiting for the list to open.
+    QString m_pendingViewSheet;
     QTimer* m_focusToolTipTimer = nullptr;
     QPointer<QAbstractItemView> m_filteredView;
     QPointer<QObject> m_parentThemeSource;
@@ -208,4 +212,25 @@ private:
     // Rows whose tooltip and description were written since the popup
     // opened; they are written as rows come into view or are asked for.
     std::vector<bool> m_rowTextsDone;
+    struct RowTextsKey {
+        QPointer<QAbstractItemModel> model;
+        QPersistentModelIndex root;
+        int column = -1;
+        int current = -1;
+        int rows = -1;
+        int width = -1;
+        QFont font;
+        int iconSize = -1;
+        int dropDown = -1;
+        bool operator==(const RowTextsKey& o) const {
+            return model == o.model && root == o.root && column == o.column && current == o.current &&
+                   rows == o.rows && width == o.width && font == o.font && iconSize == o.iconSize &&
+                   dropDown == o.dropDown;
+        }
+    };
+    RowTextsKey m_rowTextsKey;
+    bool m_writingRowTexts = false;
+    bool m_applyingCustomCSS = false;
+    QString m_appliedSheet;
+    QString m_appliedThemeKey;
 };

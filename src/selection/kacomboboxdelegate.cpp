@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOptionFocusRect>
 
 namespace {
@@ -83,11 +82,11 @@ void KaComboBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    QPainterPath path;
-    path.addRoundedRect(QRectF(inset), m_itemRadius, m_itemRadius);
+    // One rounded rectangle is already a simple path: drawn as such, it
+    // skips building and simplifying a path for every row.
     painter->setPen(Qt::NoPen);
     painter->setBrush(m_backgroundColors.colorFor(option.state));
-    painter->drawPath(path.simplified());
+    painter->drawRoundedRect(QRectF(inset), m_itemRadius, m_itemRadius);
     painter->restore();
 
     if (auto* widget = const_cast<QWidget*>(option.widget)) {
@@ -119,7 +118,7 @@ void KaComboBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
             textRect.setRight(r.right());
     }
     const QString text = index.model() ? index.data(Qt::DisplayRole).toString() : QString();
-    const QString elided = QFontMetrics(m_font).elidedText(text, Qt::ElideRight, textRect.width());
+    const QString elided = painter->fontMetrics().elidedText(text, Qt::ElideRight, textRect.width());
     painter->setPen(m_textColors.colorFor(option.state));
     painter->drawText(
         textRect, int(QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter)), elided);

@@ -154,7 +154,10 @@ private Q_SLOTS:
         const QColor dark = colorOf("combobox-background", BzThemeUtils::Dark);
         QVERIFY(dark != light);
         QTRY_COMPARE(ButtonTest::pixelAt(&combo, QPoint(4, 14)), dark);
+        // The list opens in the new theme.
+        combo.showPopup();
         QVERIFY(combo.view()->styleSheet().contains(BzThemeUtils::colorToCss(dark)));
+        combo.hidePopup();
         // An own theme type wins over the application's theme.
         combo.setThemeType(QStringLiteral("light"));
         QCOMPARE(ButtonTest::pixelAt(&combo, QPoint(4, 14)), light);
