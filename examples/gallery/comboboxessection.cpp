@@ -30,7 +30,8 @@ ComboBoxesSection::ComboBoxesSection(QWidget* parent)
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(16);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(6);
+    grid->setColumnStretch(3, 1);
     column->addLayout(grid);
 
     const QStringList rooms = {QStringLiteral("Harbour"), QStringLiteral("Lighthouse"),
@@ -78,7 +79,7 @@ ComboBoxesSection::ComboBoxesSection(QWidget* parent)
     m_clickOnly->setShowPopupEnabled(false);
     m_clickResult =
         GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::BodySmall, this);
-    grid->addWidget(m_clickResult, 7, 1, 1, 2);
+    grid->addWidget(m_clickResult, 8, 0, 1, 3);
     connect(m_clickOnly, &KaComboBoxBase::contentAreaClicked, this, [this] {
         ++m_clicks;
         retranslateUi();

@@ -153,7 +153,7 @@ BzThemeUtils::AppThemeType KaComboBoxBase::themeTypeValue() const {
 void KaComboBoxBase::setCSS(const QString& css) {
     m_css = css;
     if (!m_applyingCustomCSS)
-        m_appliedSheet.clear();
+        m_appliedKey.clear();
     const BzThemeUtils::AppThemeType type = themeTypeValue();
     const BzCSSData parsed = BzThemeUtils::parseCSS(this, css, BzThemeUtils::getAppWColorSets());
     for (int i = 0; i < BzCSSData::SwitchCount; ++i)
@@ -409,6 +409,22 @@ int KaComboBoxBase::dropDownWidth() const {
 }
 
 void KaComboBoxBase::applyCustomCSS() {
+    // Shown and hidden lists ask again; an unchanged look costs nothing.
+    const QString key = objectName() + QLatin1Char('/') + m_themeType + QLatin1Char('/') +
+                        QString::number(BzThemeManager::instance()->generation()) + QLatin1Char('/') +
+                        m_backgroundColorSet.name() + QLatin1Char('/') + m_borderColorSet.name() +
+                        QLatin1Char('/') + m_textColorSet.name() + QLatin1Char('/') + m_popupBackgroundColor +
+                        QLatin1Char('/') + m_selectedBackgroundColor + QLatin1Char('/') +
+                        QString::number(m_leftPadding) + QLatin1Char('/') + QString::number(m_iconPadding) +
+                        QLatin1Char('/') + QString::number(m_arrowIcon.size().width()) + QLatin1Char('x') +
+                        QString::number(m_arrowIcon.size().height()) + QLatin1Char('/') +
+                        QString::number(m_itemViewBorderRadius) + QLatin1Char('/') +
+                        QLatin1Char(m_cssSwitches[0] ? '1' : '0') + QLatin1Char(m_cssSwitches[1] ? '1' : '0');
+    if (key == m_appliedKey) {
+        update();
+        return;
+    }
+    m_appliedKey = key;
     const QString name = objectName();
     const QSize iconSize = m_arrowIcon.size();
     QString sheet;
@@ -460,19 +476,6 @@ void KaComboBoxBase::applyCustomCSS() {
         if (list->isVisible() || list->styleSheet().isEmpty())
             applyViewSheet();
     }
-
-    // Shown and hidden lists ask again; an unchanged look costs nothing.
-    const quint64 generation = BzThemeManager::instance()->generation();
-    const QString themeKey = QString::number(generation) + QLatin1Char('/') + m_themeType +
-                             QLatin1Char(m_cssSwitches[0] ? '1' : '0') +
-                             QLatin1Char(m_cssSwitches[1] ? '1' : '0') + m_backgroundColorSet.name() +
-                             m_borderColorSet.name() + m_textColorSet.name();
-    if (sheet == m_appliedSheet && themeKey == m_appliedThemeKey) {
-        update();
-        return;
-    }
-    m_appliedSheet = sheet;
-    m_appliedThemeKey = themeKey;
 
     BzCSSData record;
     record.backgroundColorSet = m_backgroundColorSet.name();

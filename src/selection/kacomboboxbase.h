@@ -231,6 +231,6 @@ private:
     RowTextsKey m_rowTextsKey;
     bool m_writingRowTexts = false;
     bool m_applyingCustomCSS = false;
-    QString m_appliedSheet;
-    QString m_appliedThemeKey;
+    // Everything the built style sheets depend on, when they were last built.
+    QString m_appliedKey;
 };

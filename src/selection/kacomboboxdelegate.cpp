@@ -10,6 +10,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QPainter>
+#include <QPainterPath>
+#include <QPixmapCache>
 #include <QStyleOptionFocusRect>
 
 namespace {
@@ -18,6 +20,33 @@ constexpr int kInset = 5;
 constexpr int kTextMargin = 12;
 constexpr int kIconGap = 24;
 } // namespace
+
+// Rows of a list share a few sizes and colours: their rounded fill is drawn
+// once and blitted after.
+QPixmap KaComboBoxDelegate::rowBackground(const QSize& size, const QColor& colour, qreal ratio) const {
+    const QString key = QStringLiteral("KaComboBoxDelegate/%1x%2/%3/%4/%5")
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(m_itemRadius)
+                            .arg(colour.rgba(), 0, 16)
+                            .arg(ratio);
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
+    pixmap = QPixmap(QSize(int(size.width() * ratio), int(size.height() * ratio)));
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter p(&pixmap);
+    p.setRenderHint(QPainter::Antialiasing);
+    QPainterPath path;
+    path.addRoundedRect(QRectF(QPointF(0, 0), QSizeF(size)), m_itemRadius, m_itemRadius);
+    p.setPen(Qt::NoPen);
+    p.setBrush(colour);
+    p.drawPath(path.simplified());
+    p.end();
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
+}
 
 KaComboBoxDelegate::KaComboBoxDelegate(QObject* parent)
     : QStyledItemDelegate(parent)
@@ -80,14 +109,9 @@ void KaComboBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     const QRect r = option.rect;
     const QRect inset = r.adjusted(kInset, kInset, -kInset, -kInset);
 
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    // One rounded rectangle is already a simple path: drawn as such, it
-    // skips building and simplifying a path for every row.
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(m_backgroundColors.colorFor(option.state));
-    painter->drawRoundedRect(QRectF(inset), m_itemRadius, m_itemRadius);
-    painter->restore();
+    painter->drawPixmap(inset.topLeft(),
+                        rowBackground(inset.size(), m_backgroundColors.colorFor(option.state),
+                                      painter->device()->devicePixelRatioF()));
 
     if (auto* widget = const_cast<QWidget*>(option.widget)) {
         const int shift = AppUtils::isRTLLayoutDirection() ? widget->width() - r.width() - 1 : 1;

@@ -6,6 +6,7 @@
 #include <bzfont.h>
 #include <bzthemeutils.h>
 
+#include <QPixmap>
 #include <QPointer>
 #include <QSize>
 #include <QStyledItemDelegate>
@@ -38,6 +39,7 @@ public:
 
 private:
     void resolveColours() const;
+    QPixmap rowBackground(const QSize& size, const QColor& colour, qreal ratio) const;
 
     QString m_textColorSetName;
     QString m_backgroundColorSetName;
