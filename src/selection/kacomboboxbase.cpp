@@ -607,8 +607,8 @@ void KaComboBoxBase::paintEvent(QPaintEvent*) {
         painter.fontMetrics().elidedText(option.currentText, Qt::ElideRight, editRect.width());
     style()->drawControl(QStyle::CE_ComboBoxLabel, &option, &painter, this);
     drawDropdownIcon(&painter, option);
-    if (isKeyboardFocus() && (option.state & QStyle::State_HasFocus) &&
-        (option.state & QStyle::State_KeyboardFocusChange)) {
+    if ((option.state & QStyle::State_HasFocus) && (option.state & QStyle::State_KeyboardFocusChange) &&
+        isKeyboardFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);
         QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);

@@ -114,16 +114,21 @@ void KaComboBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
                                       painter->device()->devicePixelRatioF()));
 
     if (auto* widget = const_cast<QWidget*>(option.widget)) {
-        const int shift = AppUtils::isRTLLayoutDirection() ? widget->width() - r.width() - 1 : 1;
-        QStyleOptionFocusRect focus;
-        focus.initFrom(widget);
-        focus.rect = inset.adjusted(shift + 1, 1, shift - 1, -1);
         // The focus ring reads it to ring the row instead of the view.
-        if (!widget->property("hasCustomRect").toBool())
+        if (m_customRectWidget != widget) {
+            m_customRectWidget = widget;
             widget->setProperty("hasCustomRect", true);
-        if (qApp->property("isKeyboardFocus").toBool() && (option.state & QStyle::State_HasFocus) &&
-            (option.state & QStyle::State_KeyboardFocusChange))
+        }
+        // The state is checked first: reading an application property on
+        // every row of every paint is not free.
+        if ((option.state & QStyle::State_HasFocus) && (option.state & QStyle::State_KeyboardFocusChange) &&
+            qApp->property("isKeyboardFocus").toBool()) {
+            const int shift = AppUtils::isRTLLayoutDirection() ? widget->width() - r.width() - 1 : 1;
+            QStyleOptionFocusRect focus;
+            focus.initFrom(widget);
+            focus.rect = inset.adjusted(shift + 1, 1, shift - 1, -1);
             QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, widget);
+        }
     }
 
     painter->save();

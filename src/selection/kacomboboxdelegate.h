@@ -51,6 +51,8 @@ private:
     BzFont m_font{BzFont::Body, false};
     BzSvgRenderer* m_checkIcon = nullptr;
     QPointer<QComboBox> m_comboBox;
+    // The last view marked for the focus ring's custom rectangle.
+    mutable QPointer<QWidget> m_customRectWidget;
 
     // Resolved for the theme type and theme generation they were read for.
     mutable BzColorSet m_textColors;
