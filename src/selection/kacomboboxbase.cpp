@@ -768,12 +768,16 @@ void KaComboBoxBase::showPopup() {
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, animate);
 
     // Select the current row even when the view's current index already
-    // pointed at it.
+    // pointed at it; a row already current and selected needs nothing.
     QAbstractItemView* list = view();
     const QModelIndex viewIndex = list->currentIndex();
-    list->setCurrentIndex(QModelIndex());
-    setCurrentIndex(currentIndex());
-    list->setCurrentIndex(viewIndex);
+    const bool selected = viewIndex.isValid() && viewIndex.row() == currentIndex() && list->selectionModel() &&
+                          list->selectionModel()->isSelected(viewIndex);
+    if (!selected) {
+        list->setCurrentIndex(QModelIndex());
+        setCurrentIndex(currentIndex());
+        list->setCurrentIndex(viewIndex);
+    }
 
     if (auto* container = findChild<QFrame*>(QString(), Qt::FindDirectChildrenOnly)) {
         const QPoint pos = container->pos();

@@ -173,7 +173,7 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(QString, fitting);
         QFETCH(QString, wrapped);
-        const QFontMetrics metrics(BzFont(BzFont::Body));
+        const QFontMetrics metrics{BzFont(BzFont::Body)};
         QCOMPARE(KaComboBoxBase::wrapText(text, metrics.horizontalAdvance(fitting), metrics), wrapped);
     }
 
