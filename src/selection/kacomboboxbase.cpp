@@ -771,8 +771,8 @@ void KaComboBoxBase::showPopup() {
     // pointed at it; a row already current and selected needs nothing.
     QAbstractItemView* list = view();
     const QModelIndex viewIndex = list->currentIndex();
-    const bool selected = viewIndex.isValid() && viewIndex.row() == currentIndex() && list->selectionModel() &&
-                          list->selectionModel()->isSelected(viewIndex);
+    const bool selected = viewIndex.isValid() && viewIndex.row() == currentIndex() &&
+                          list->selectionModel() && list->selectionModel()->isSelected(viewIndex);
     if (!selected) {
         list->setCurrentIndex(QModelIndex());
         setCurrentIndex(currentIndex());

@@ -98,8 +98,21 @@ bool KaComboBoxDelegate::isSelected(const QModelIndex& index) const {
 }
 
 QSize KaComboBoxDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    // Views ask for the same rows' sizes again and again (each visual rect),
+    // and measuring a text shapes it every time. Plain text rows are kept.
+    QString key;
+    const bool plainRow = index.isValid() && !index.data(Qt::DecorationRole).isValid() &&
+                          !index.data(Qt::SizeHintRole).isValid() && !index.data(Qt::FontRole).isValid();
+    if (plainRow) {
+        key = index.data(Qt::DisplayRole).toString() + QChar(0x1f) + option.font.key() + QChar(0x1f) +
+              QString::number(int(option.features));
+        if (const QSize* cached = m_sizeHints.object(key))
+            return *cached;
+    }
     QSize hint = QStyledItemDelegate::sizeHint(option, index);
     hint.setHeight(std::max(hint.height(), kMinimumRowHeight));
+    if (plainRow)
+        m_sizeHints.insert(key, new QSize(hint));
     return hint;
 }
 

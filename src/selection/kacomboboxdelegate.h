@@ -6,6 +6,7 @@
 #include <bzfont.h>
 #include <bzthemeutils.h>
 
+#include <QCache>
 #include <QPixmap>
 #include <QPointer>
 #include <QSize>
@@ -60,4 +61,6 @@ private:
     mutable BzColorSet m_iconColors;
     mutable quint64 m_resolvedGeneration = 0;
     mutable int m_resolvedType = -1;
+    // Size hints of plain text rows by text and font.
+    mutable QCache<QString, QSize> m_sizeHints{4096};
 };
