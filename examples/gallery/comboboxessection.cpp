@@ -102,6 +102,7 @@ KaComboBox* ComboBoxesSection::addCombo(int row, int column, const char* caption
     delegate->setDrawIcon(true);
     combo->setItemDelegate(delegate);
     combo->setPopupItemIconSize(18);
+    combo->setFontType(FontManagerEnum::Scaled); // follows the gallery's text size
     grid->addWidget(label, row, column);
     grid->addWidget(combo, row + 1, column, Qt::AlignTop);
     m_entries << Entry{combo, label, caption};

@@ -66,26 +66,11 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(4, height / 2), colorOf("combobox-background"));
     }
 
-    void styleAndSizeSignals() {
-        KaComboBox combo;
-        QSignalSpy styleSpy(&combo, &KaComboBox::styleChanged);
-        QSignalSpy sizeSpy(&combo, &KaComboBox::sizeChanged);
-        combo.setStyle(KaComboBoxEnum::Filled);
-        combo.setStyle(KaComboBoxEnum::Filled);
-        combo.setSize(KaComboBoxEnum::Large);
-        QCOMPARE(styleSpy.count(), 1);
-        QCOMPARE(sizeSpy.count(), 1);
-        QCOMPARE(combo.property("style").value<KaComboBoxEnum::Style>(), KaComboBoxEnum::Filled);
-        QCOMPARE(combo.QWidget::size().height(), 32);
-    }
-
     void unknownStyleOrSize_data() {
         QTest::addColumn<int>("style");
         QTest::addColumn<int>("size");
         QTest::newRow("style 2") << 2 << int(KaComboBoxEnum::Large);
-        QTest::newRow("style -1") << -1 << int(KaComboBoxEnum::Large);
         QTest::newRow("size 2") << int(KaComboBoxEnum::Filled) << 2;
-        QTest::newRow("size -1") << int(KaComboBoxEnum::Filled) << -1;
     }
     void unknownStyleOrSize() {
         QFETCH(int, style);

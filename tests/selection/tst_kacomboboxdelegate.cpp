@@ -144,7 +144,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("expected");
         const int enabled = int(QStyle::State_Enabled);
         QTest::newRow("normal") << enabled << int(BzColorSet::Normal);
-        QTest::newRow("hovered") << (enabled | int(QStyle::State_MouseOver)) << int(BzColorSet::Hovered);
         QTest::newRow("disabled") << 0 << int(BzColorSet::Disabled);
         QTest::newRow("selected") << (enabled | int(QStyle::State_Selected)) << int(BzColorSet::Checked);
         QTest::newRow("pressed over hover")
@@ -163,22 +162,6 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(kRowWidth / 2, 20).rgb(), colour.rgb());
         // Inset by 5 pixels: the row's edge stays clear.
         QCOMPARE(image.pixelColor(kRowWidth / 2, 2).alpha(), 0);
-    }
-
-    void themeType() {
-        QStandardItemModel model;
-        model.appendRow(new QStandardItem(QString()));
-        KaComboBoxDelegate delegate;
-        delegate.setThemeType(BzThemeUtils::Dark);
-        const QColor dark = BzThemeUtils::getColorSet("combobox-background", BzThemeUtils::Dark).normal();
-        QCOMPARE(paintRow(delegate, model.index(0, 0), Qt::LeftToRight).pixelColor(kRowWidth / 2, 20).rgb(),
-                 dark.rgb());
-    }
-
-    void noModel() {
-        KaComboBoxDelegate delegate;
-        const QImage image = paintRow(delegate, QModelIndex(), Qt::LeftToRight);
-        QVERIFY(BzTest::boxOf(image, normalOf("combobox-text")).isEmpty());
     }
 };
 
