@@ -14,6 +14,7 @@
 #include <QFrame>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
@@ -356,6 +357,9 @@ void KaComboBoxBase::setEditable(bool editable) {
     if (isEditable() == editable)
         return;
     QComboBox::setEditable(editable);
+    // The style-sheet engine gives the new editor the application's font.
+    if (QLineEdit* edit = lineEdit())
+        edit->setFont(font());
     applyCustomCSS();
 }
 
@@ -560,6 +564,8 @@ void KaComboBoxBase::connectParentThemeType() {
 }
 
 void KaComboBoxBase::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange && lineEdit())
+        lineEdit()->setFont(font());
     if (event->type() == QEvent::ParentChange) {
         connectParentThemeType();
         onParentThemeTypeChanged();
