@@ -78,6 +78,7 @@ bench)
     QT_QPA_PLATFORM=offscreen build/bench/bench_buttons
     QT_QPA_PLATFORM=offscreen build/bench/bench_labels
     QT_QPA_PLATFORM=offscreen build/bench/bench_avatars
+    QT_QPA_PLATFORM=offscreen build/bench/bench_combobox
     ;;
 *)
     echo "usage: $0 gallery|test|bench" >&2

@@ -2,7 +2,8 @@
 
 #include "gallerypage.h"
 
-// Check boxes, radio buttons, option groups, sliders and combo boxes.
+// Selection controls, one section per group: check boxes, radio buttons,
+// option groups and sliders, then combo boxes.
 class SelectionPage : public GalleryPage {
     Q_OBJECT
 public:
