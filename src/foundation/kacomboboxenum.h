@@ -8,9 +8,10 @@
 class KARVEX_EXPORT KaComboBoxEnum : public QObject {
     Q_OBJECT
 public:
-    enum Style { Outline = 0, Filled = 1 };
+    // int-based, so that a value from outside the list can be held and refused.
+    enum Style : int { Outline = 0, Filled = 1 };
     Q_ENUM(Style)
 
-    enum Size { Normal = 0, Large = 1 };
+    enum Size : int { Normal = 0, Large = 1 };
     Q_ENUM(Size)
 };

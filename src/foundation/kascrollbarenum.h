@@ -8,6 +8,7 @@
 class KARVEX_EXPORT KaScrollbarEnum : public QObject {
     Q_OBJECT
 public:
-    enum MinimumSize { Small = 0, Normal = 1 };
+    // int-based, so that a value from outside the list can be held and refused.
+    enum MinimumSize : int { Small = 0, Normal = 1 };
     Q_ENUM(MinimumSize)
 };

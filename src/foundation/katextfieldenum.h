@@ -8,9 +8,10 @@
 class KARVEX_EXPORT KaTextFieldEnum : public QObject {
     Q_OBJECT
 public:
-    enum Style { Password = 0, Search = 1, Standard = 2, Pin = 3 };
+    // int-based, so that a value from outside the list can be held and refused.
+    enum Style : int { Password = 0, Search = 1, Standard = 2, Pin = 3 };
     Q_ENUM(Style)
 
-    enum Size { SingleCharacter = 0, Normal = 1, Large = 2 };
+    enum Size : int { SingleCharacter = 0, Normal = 1, Large = 2 };
     Q_ENUM(Size)
 };

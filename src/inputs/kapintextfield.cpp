@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <utility>
+
 namespace {
 
 constexpr int kDefaultDigits = 6;
@@ -37,7 +39,13 @@ KaPinTextField::KaPinTextField(QWidget* parent, KaTextFieldEnum::Style style, Ka
     setSize(size);
 }
 
-KaPinTextField::~KaPinTextField() = default;
+KaPinTextField::~KaPinTextField() {
+    // The boxes go with QWidget's destructor, after this one: unhook them.
+    for (KaTextField* box : std::as_const(m_boxes)) {
+        box->lineEdit()->removeEventFilter(this);
+        disconnect(box->lineEdit(), nullptr, this, nullptr);
+    }
+}
 
 void KaPinTextField::setStyle(KaTextFieldEnum::Style style) {
     if (style < KaTextFieldEnum::Password || style > KaTextFieldEnum::Pin) {
@@ -176,8 +184,14 @@ bool KaPinTextField::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void KaPinTextField::rebuild(int count) {
-    qDeleteAll(m_boxes);
-    m_boxes.clear();
+    // Out of the list before they go: deleting a focused box sends events
+    // that the filter would otherwise look up in it.
+    const QList<KaTextField*> old = std::exchange(m_boxes, {});
+    for (KaTextField* box : old) {
+        box->lineEdit()->removeEventFilter(this);
+        disconnect(box->lineEdit(), nullptr, this, nullptr);
+    }
+    qDeleteAll(old);
     auto* row = static_cast<QHBoxLayout*>(layout());
     for (int i = 0; i < count; ++i) {
         auto* box = new KaTextField(this, KaTextFieldEnum::Pin, KaTextFieldEnum::SingleCharacter);
@@ -190,7 +204,9 @@ void KaPinTextField::rebuild(int count) {
         editor->installEventFilter(this);
         // Input methods bypass key events: keep the last digit they left.
         connect(editor, &QLineEdit::textEdited, this, [this, box](const QString& edited) {
-            const int index = m_boxes.indexOf(box);
+            const int index = int(m_boxes.indexOf(box));
+            if (index < 0)
+                return;
             const QString last = edited.right(1);
             const QString before = text();
             setDigit(index, allDigits(last) ? last : QString());

@@ -95,7 +95,12 @@ KaTextField::KaTextField(QWidget* parent, KaTextFieldEnum::Style style, KaTextFi
     init(style, size);
 }
 
-KaTextField::~KaTextField() = default;
+KaTextField::~KaTextField() {
+    // QWidget's destructor takes focus from the editor, which then reports
+    // editingFinished and a focus-out to a field that is no longer one.
+    m_edit->removeEventFilter(this);
+    disconnect(m_edit, nullptr, this, nullptr);
+}
 
 void KaTextField::init(KaTextFieldEnum::Style style, KaTextFieldEnum::Size size) {
     setObjectName(QStringLiteral("TextField"));
