@@ -2,6 +2,7 @@
 
 #include "kacolortokenutils.h"
 #include "kaconfig.h"
+#include "kafocusstyle.h"
 #include "kalabel.h"
 #include "kapillbutton.h"
 #include "kasvglabel.h"
@@ -12,7 +13,6 @@
 #include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 #include <QTextDocumentFragment>
 
 namespace {
@@ -62,9 +62,7 @@ protected:
         if (!hasFocus())
             return;
         QPainter painter(this);
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+        KaFocusStyle::requestRing(this, &painter);
     }
 };
 
@@ -423,7 +421,5 @@ void KaAlertBanner::paintEvent(QPaintEvent* event) {
     if (!hasFocus())
         return;
     QPainter painter(this);
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    KaFocusStyle::requestRing(this, &painter);
 }

@@ -1,5 +1,7 @@
 #include "kafocusstyle.h"
 
+#include <QStyleOptionFocusRect>
+
 #include "customfocusoverlay.h"
 
 #include <drawutils.h>
@@ -312,6 +314,18 @@ void KaFocusStyle::drawOutline(QPainter* painter, const QRectF& rect, const QCol
     painter->setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     painter->drawPath(path);
     painter->restore();
+}
+
+void KaFocusStyle::requestRing(QWidget* widget, QPainter* painter, const QRect& part) {
+    if (!widget || !painter)
+        return;
+    QStyleOptionFocusRect option;
+    option.initFrom(widget);
+    if (!part.isNull()) {
+        option.rect = part;
+        option.styleObject = widget;
+    }
+    widget->style()->drawPrimitive(PE_FrameFocusRect, &option, painter, widget);
 }
 
 QWidget* KaFocusStyle::getFocusOverlayParent(QWidget* widget) {

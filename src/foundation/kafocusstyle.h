@@ -54,6 +54,12 @@ public:
     static void drawFocusOutline(QPainter* painter, const QRect& rect, const QColor& outer,
                                  const QColor& inner, bool opaque, int radius, unsigned char corners);
 
+    // What a painted widget calls at the end of its paintEvent() while it has
+    // focus: asks whatever style it has for its focus rectangle, which under
+    // this style shows the ring around the whole widget, or around `part`
+    // (widget coordinates) when the widget sets "hasCustomRect".
+    static void requestRing(QWidget* widget, QPainter* painter, const QRect& part = QRect());
+
 Q_SIGNALS:
     // `customFocusRect` is in the widget's coordinates; null means the whole widget.
     void updateOverlay(const QWidget* widget, const QRect& customFocusRect);

@@ -1,6 +1,7 @@
 #include "kamultiplelinklabel.h"
 
 #include "kacolortokenutils.h"
+#include "kafocusstyle.h"
 #include "karvexutils.h"
 
 #include <bzthemeutils.h>
@@ -12,7 +13,6 @@
 #include <QPainter>
 #include <QPointer>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -406,13 +406,8 @@ void KaMultipleLinkLabel::paintEvent(QPaintEvent*) {
     m_document->documentLayout()->draw(&painter, context);
     painter.translate(-offset);
 
-    if (hasFocus() && m_current >= 0) {
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        option.rect = linkRect(m_current);
-        option.styleObject = this;
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+    if (hasFocus() && m_current >= 0)
+        KaFocusStyle::requestRing(this, &painter, linkRect(m_current));
 }
 
 void KaMultipleLinkLabel::keyPressEvent(QKeyEvent* event) {

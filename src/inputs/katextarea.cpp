@@ -1,6 +1,7 @@
 #include "katextarea_p.h"
 
 #include "kacolortokenutils.h"
+#include "kafocusstyle.h"
 #include "kascrollbarutils.h"
 
 #include <bzthemeutils.h>
@@ -106,5 +107,5 @@ void KaTextAreaLook::paintFrame() {
     const QColor line = m_border.colorFor(state & QStyle::State_Enabled);
     DrawUtils::drawRoundedRect(&painter, QRectF(m_area->rect()), kRadius, fill, line, 1);
     if (state & QStyle::State_HasFocus)
-        m_area->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, m_area);
+        KaFocusStyle::requestRing(m_area, &painter);
 }

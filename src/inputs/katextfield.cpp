@@ -1,6 +1,7 @@
 #include "katextfield.h"
 
 #include "kacolortokenutils.h"
+#include "kafocusstyle.h"
 #include "kaiconbutton.h"
 #include "kalabel.h"
 #include "karvexutils.h"
@@ -15,7 +16,6 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 namespace {
 
@@ -70,10 +70,7 @@ protected:
         if (!hasFocus())
             return;
         QPainter painter(this);
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        option.rect = rect();
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+        KaFocusStyle::requestRing(this, &painter);
     }
 };
 

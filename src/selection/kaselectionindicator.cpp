@@ -1,6 +1,7 @@
 #include "kaselectionindicator_p.h"
 
 #include "kacolortokenutils.h"
+#include "kafocusstyle.h"
 
 #include <bzthemeutils.h>
 #include <drawutils.h>
@@ -98,10 +99,7 @@ void KaSelectionIndicator::paint(QAbstractButton* button, bool on, Mark mark) co
         painter.drawText(textRect, int(Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine), shown);
     }
 
-    if (option.state & QStyle::State_HasFocus) {
-        // The ring goes round the indicator, the part that toggles.
-        option.rect = box;
-        option.styleObject = button;
-        button->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, button);
-    }
+    // The ring goes round the indicator, the part that toggles.
+    if (option.state & QStyle::State_HasFocus)
+        KaFocusStyle::requestRing(button, &painter, box);
 }

@@ -1,6 +1,7 @@
 #include "kaslider.h"
 
 #include "kacolortokenutils.h"
+#include "kafocusstyle.h"
 
 #include <bzcolorset.h>
 #include <bzthemeutils.h>
@@ -8,7 +9,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 #include <QStyleOptionSlider>
 
 namespace {
@@ -135,14 +135,9 @@ void KaSlider::paintEvent(QPaintEvent*) {
     DrawUtils::drawRoundedRect(&painter, handle, kHandle / 2.0, m_colours->handle.colorFor(option),
                                m_colours->handleBorder.colorFor(option), 2);
 
-    if (option.state & QStyle::State_HasFocus) {
-        // The ring goes round the handle, the part the keys move.
-        QStyleOptionFocusRect ring;
-        ring.initFrom(this);
-        ring.rect = handle.toAlignedRect();
-        ring.styleObject = this;
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &ring, &painter, this);
-    }
+    // The ring goes round the handle, the part the keys move.
+    if (option.state & QStyle::State_HasFocus)
+        KaFocusStyle::requestRing(this, &painter, handle.toAlignedRect());
 }
 
 void KaSlider::changeEvent(QEvent* event) {
