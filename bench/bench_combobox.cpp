@@ -150,22 +150,12 @@ double measureKaSwitch(int count, int rounds) {
 
 double measurePaletteSwitch(int count, int rounds) {
     const QPalette original = QApplication::palette();
-    const QPalette palettes[] = {paletteFor(BzThemeUtils::Dark, original),
-                                 paletteFor(BzThemeUtils::Light, original)};
     auto window = bench::makeGrid(count, makePlainComboBox);
-    std::vector<double> times;
-    for (int r = 0; r < rounds; ++r) {
-        QElapsedTimer timer;
-        timer.start();
-        QApplication::setPalette(palettes[r % 2]);
-        QCoreApplication::processEvents();
-        window->repaint();
-        times.push_back(timer.nsecsElapsed() / 1e6);
-    }
+    const double ms = bench::timePaletteSwitches(window.get(), paletteFor(BzThemeUtils::Dark, original),
+                                                 paletteFor(BzThemeUtils::Light, original), rounds);
     window.reset();
-    QApplication::setPalette(original);
     bench::flushEvents();
-    return bench::median(times);
+    return ms;
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "bzthememanager.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -115,6 +116,22 @@ double timeThemeSwitches(QWidget* window, int rounds) {
         times.push_back(timer.nsecsElapsed() / 1e6);
     }
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
+    return median(times);
+}
+
+double timePaletteSwitches(QWidget* window, const QPalette& first, const QPalette& second, int rounds) {
+    const QPalette original = QApplication::palette();
+    const QPalette* palettes[] = {&first, &second};
+    std::vector<double> times;
+    for (int r = 0; r < rounds; ++r) {
+        QElapsedTimer timer;
+        timer.start();
+        QApplication::setPalette(*palettes[r % 2]);
+        QCoreApplication::processEvents();
+        window->repaint();
+        times.push_back(timer.nsecsElapsed() / 1e6);
+    }
+    QApplication::setPalette(original);
     return median(times);
 }
 

@@ -3,6 +3,7 @@
 // What the benchmarks share: medians, a shown and painted grid of widgets,
 // and the heap a shown widget holds.
 
+#include <QPalette>
 #include <QSize>
 #include <QWidget>
 
@@ -53,6 +54,12 @@ std::pair<double, double> compareHeap(int count, const MakeWidget& ours, const M
 // dark and light: the host's data-only switch, updateSolvaneThemes(), the
 // queued slots and the repaint. Ends in the light theme.
 double timeThemeSwitches(QWidget* window, int rounds);
+
+// Median milliseconds of `rounds` QApplication::setPalette switches over
+// `window`, alternating `first` and `second` (built before timing, as the
+// theme data is for the library's side), with the repaint. Restores the
+// application palette it found.
+double timePaletteSwitches(QWidget* window, const QPalette& first, const QPalette& second, int rounds);
 
 // Deletes what is scheduled for deletion and settles posted events.
 void flushEvents();
