@@ -26,10 +26,6 @@ QSize KaCheckBox::sizeHint() const {
     return m_indicator->sizeHint(this);
 }
 
-QSize KaCheckBox::minimumSizeHint() const {
-    return QSize(KaSelectionIndicator::kIndicator, sizeHint().height());
-}
-
 void KaCheckBox::onThemeChanged() {
     m_indicator->resolve(this);
     update();

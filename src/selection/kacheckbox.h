@@ -21,7 +21,6 @@ public:
     ~KaCheckBox() override;
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
 
 public Q_SLOTS:
     // Re-reads the colours of the current theme.

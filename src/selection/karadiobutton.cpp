@@ -26,10 +26,6 @@ QSize KaRadioButton::sizeHint() const {
     return m_indicator->sizeHint(this);
 }
 
-QSize KaRadioButton::minimumSizeHint() const {
-    return QSize(KaSelectionIndicator::kIndicator, sizeHint().height());
-}
-
 void KaRadioButton::onThemeChanged() {
     m_indicator->resolve(this);
     update();

@@ -6,9 +6,11 @@
 #include <bzthemeutils.h>
 #include <drawutils.h>
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOptionFocusRect>
+#include <QtMath>
 
 namespace {
 
@@ -38,10 +40,12 @@ void KaSelectionIndicator::resolve(const QAbstractButton* button) {
 }
 
 QSize KaSelectionIndicator::sizeHint(const QAbstractButton* button) const {
-    const QFontMetrics metrics = button->fontMetrics();
+    // Fractional advance, rounded up: elidedText() compares against it, so a
+    // width rounded down would elide the text it was measured for.
+    const QFontMetricsF metrics(button->font());
     const QString text = button->text();
-    const int textWidth = text.isEmpty() ? 0 : kSpacing + metrics.horizontalAdvance(text);
-    return QSize(kIndicator + textWidth, qMax(kIndicator + 4, metrics.height()));
+    const int textWidth = text.isEmpty() ? 0 : kSpacing + qCeil(metrics.horizontalAdvance(text));
+    return QSize(kIndicator + textWidth, qMax(kIndicator + 4, qCeil(metrics.height())));
 }
 
 QRect KaSelectionIndicator::indicatorRect(const QAbstractButton* button) const {
