@@ -144,7 +144,8 @@ void TextFieldsSection::changeEvent(QEvent* event) {
 }
 
 KaLabelBase* TextFieldsSection::heading() {
-    KaLabelBase* label = GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Title, this);
+    KaLabelBase* label =
+        GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Subtitle, this);
     GalleryUtils::markAsHeading(label);
     m_headings << label;
     return label;

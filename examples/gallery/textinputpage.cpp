@@ -81,7 +81,7 @@ void TextInputPage::addSection(const char* title, QWidget* content) {
 KaLabelBase* TextInputPage::addLabel(const char* source, QWidget* parent, bool heading) {
     KaLabelBase* label =
         heading
-            ? GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Subtitle, parent)
+            ? GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Title, parent)
             : GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::BodySmall, parent);
     if (heading)
         GalleryUtils::markAsHeading(label);
