@@ -21,7 +21,6 @@
 #include "kapixmaploader.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPainter>
@@ -101,21 +100,11 @@ QWidget* makeLabel(int, QWidget* parent) {
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QCommandLineParser parser;
-    parser.addHelpOption();
-    QCommandLineOption roundsOption(QStringLiteral("rounds"), QStringLiteral("Rounds per measurement."),
-                                    QStringLiteral("n"), QStringLiteral("7"));
-    QCommandLineOption viewsOption(QStringLiteral("views"), QStringLiteral("Views per side."),
-                                   QStringLiteral("n"), QStringLiteral("1000"));
-    QCommandLineOption avatarsOption(QStringLiteral("avatars"), QStringLiteral("Pictures per timed loop."),
-                                     QStringLiteral("n"), QStringLiteral("2000"));
-    parser.addOption(roundsOption);
-    parser.addOption(viewsOption);
-    parser.addOption(avatarsOption);
-    parser.process(app);
-    const int rounds = std::max(1, parser.value(roundsOption).toInt());
-    const int count = std::max(1, parser.value(viewsOption).toInt());
-    const int avatars = std::max(1, parser.value(avatarsOption).toInt());
+    const std::vector<int> counts = bench::parseCounts(
+        app, {{"views", "Views per side.", 1000}, {"avatars", "Pictures per timed loop.", 2000}});
+    const int rounds = counts[0];
+    const int count = counts[1];
+    const int avatars = counts[2];
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
 

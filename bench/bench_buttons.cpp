@@ -20,7 +20,6 @@
 #include "karvexutils.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QIcon>
 #include <QPushButton>
@@ -64,11 +63,6 @@ QWidget* makePlain(int i, QWidget* parent, BzThemeUtils::AppThemeType type) {
     button->setFixedHeight(32);
     button->setStyleSheet(plainSheet(i, type));
     return button;
-}
-
-double measurePillSwitch(int count, int rounds) {
-    auto window = bench::makeGrid(count, makePill);
-    return bench::timeThemeSwitches(window.get(), rounds);
 }
 
 double measurePlainRestyle(int count, int rounds) {
@@ -118,22 +112,12 @@ QWidget* makeHeapPlain(int i, QWidget* parent) {
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QCommandLineParser parser;
-    parser.addHelpOption();
-    QCommandLineOption roundsOption(QStringLiteral("rounds"), QStringLiteral("Rounds per measurement."),
-                                    QStringLiteral("n"), QStringLiteral("7"));
-    QCommandLineOption buttonsOption(QStringLiteral("buttons"), QStringLiteral("Buttons per side."),
-                                     QStringLiteral("n"), QStringLiteral("1000"));
-    QCommandLineOption heapOption(QStringLiteral("heap"),
-                                  QStringLiteral("Buttons per side for the heap measurement."),
-                                  QStringLiteral("n"), QStringLiteral("5000"));
-    parser.addOption(roundsOption);
-    parser.addOption(buttonsOption);
-    parser.addOption(heapOption);
-    parser.process(app);
-    const int rounds = std::max(1, parser.value(roundsOption).toInt());
-    const int count = std::max(1, parser.value(buttonsOption).toInt());
-    const int heapCount = std::max(1, parser.value(heapOption).toInt());
+    const std::vector<int> counts =
+        bench::parseCounts(app, {{"buttons", "Buttons per side.", 1000},
+                                 {"heap", "Buttons per side for the heap measurement.", 5000}});
+    const int rounds = counts[0];
+    const int count = counts[1];
+    const int heapCount = counts[2];
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
 
     const auto makeLightPlain = [](int i, QWidget* p) {
@@ -144,13 +128,9 @@ int main(int argc, char** argv) {
     std::printf("create + lay out + paint, %d styled QPushButtons:      %8.2f ms\n", count, qc);
     std::printf("ratio: %.3f (bar: at most 1.5)\n\n", pc / qc);
 
-    std::vector<double> pillSwitch, plainSwitch;
-    for (int pass = 0; pass < 3; ++pass) {
-        pillSwitch.push_back(measurePillSwitch(count, rounds));
-        plainSwitch.push_back(measurePlainRestyle(count, rounds));
-    }
-    const double ps = bench::median(pillSwitch);
-    const double qs = bench::median(plainSwitch);
+    const auto [ps, qs] =
+        bench::compareSwitches([&] { return bench::themeSwitchOver(count, makePill, rounds); },
+                               [&] { return measurePlainRestyle(count, rounds); });
     std::printf("theme switch, %d KaPillButtons: %8.2f ms (updateSolvaneThemes + queued slots + repaint)\n",
                 count, ps);
     std::printf("restyle, %d QPushButtons:       %8.2f ms (setStyleSheet + repaint)\n", count, qs);

@@ -17,7 +17,6 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QPalette>
 #include <QStandardItemModel>
@@ -126,57 +125,20 @@ QWidget* makePlainComboBox(int i, QWidget* parent) {
 }
 
 // The palette a host would build from the same theme data.
-QPalette paletteFor(BzThemeUtils::AppThemeType type, const QPalette& base) {
-    QPalette palette = base;
-    const auto normal = [type](const char* set) {
-        return BzThemeUtils::getColorSet(set, type).normal();
-    };
-    palette.setColor(QPalette::ButtonText, normal("combobox-text"));
-    palette.setColor(QPalette::Text, normal("combobox-text"));
-    palette.setColor(QPalette::Button, normal("combobox-background"));
-    palette.setColor(QPalette::Base, normal("combobox-background"));
-    palette.setColor(QPalette::Window, normal("panel-primary-background"));
-    palette.setColor(QPalette::WindowText, normal("label-primary-text"));
-    return palette;
-}
-
-double measureKaSwitch(int count, int rounds) {
-    auto window = bench::makeGrid(count, makeKaComboBox);
-    const double ms = bench::timeThemeSwitches(window.get(), rounds);
-    window.reset();
-    bench::flushEvents();
-    return ms;
-}
-
-double measurePaletteSwitch(int count, int rounds) {
-    const QPalette original = QApplication::palette();
-    auto window = bench::makeGrid(count, makePlainComboBox);
-    const double ms = bench::timePaletteSwitches(window.get(), paletteFor(BzThemeUtils::Dark, original),
-                                                 paletteFor(BzThemeUtils::Light, original), rounds);
-    window.reset();
-    bench::flushEvents();
-    return ms;
-}
+const bench::PaletteRoles kComboPalette = {
+    {QPalette::ButtonText, "combobox-text"},        {QPalette::Text, "combobox-text"},
+    {QPalette::Button, "combobox-background"},      {QPalette::Base, "combobox-background"},
+    {QPalette::Window, "panel-primary-background"}, {QPalette::WindowText, "label-primary-text"}};
 
 } // namespace
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QCommandLineParser parser;
-    parser.addHelpOption();
-    QCommandLineOption roundsOption(QStringLiteral("rounds"), QStringLiteral("Rounds per measurement."),
-                                    QStringLiteral("n"), QStringLiteral("7"));
-    QCommandLineOption rowsOption(QStringLiteral("rows"), QStringLiteral("Rows of the popup model."),
-                                  QStringLiteral("n"), QStringLiteral("100000"));
-    QCommandLineOption combosOption(QStringLiteral("combos"), QStringLiteral("Combo boxes per side."),
-                                    QStringLiteral("n"), QStringLiteral("500"));
-    parser.addOption(roundsOption);
-    parser.addOption(rowsOption);
-    parser.addOption(combosOption);
-    parser.process(app);
-    const int rounds = std::max(1, parser.value(roundsOption).toInt());
-    const int rows = std::max(1, parser.value(rowsOption).toInt());
-    const int count = std::max(1, parser.value(combosOption).toInt());
+    const std::vector<int> counts = bench::parseCounts(
+        app, {{"rows", "Rows of the popup model.", 100000}, {"combos", "Combo boxes per side.", 500}});
+    const int rounds = counts[0];
+    const int rows = counts[1];
+    const int count = counts[2];
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
 
@@ -186,13 +148,9 @@ int main(int argc, char** argv) {
     std::printf("show popup until painted, %d rows, QComboBox:  %8.2f ms\n", rows, qp);
     std::printf("ratio: %.3f (bar: at most 1.5)\n\n", kp / qp);
 
-    std::vector<double> kaSwitch, plainSwitch;
-    for (int pass = 0; pass < 3; ++pass) {
-        kaSwitch.push_back(measureKaSwitch(count, rounds));
-        plainSwitch.push_back(measurePaletteSwitch(count, rounds));
-    }
-    const double ks = bench::median(kaSwitch);
-    const double qs = bench::median(plainSwitch);
+    const auto [ks, qs] = bench::compareSwitches(
+        [&] { return bench::themeSwitchOver(count, makeKaComboBox, rounds); },
+        [&] { return bench::paletteSwitchOver(count, makePlainComboBox, kComboPalette, rounds); });
     std::printf("theme switch, %d KaComboBoxes: %8.2f ms (updateSolvaneThemes + queued slots + repaint)\n",
                 count, ks);
     std::printf("palette switch, %d QComboBoxes: %8.2f ms (QApplication::setPalette + repaint)\n", count, qs);

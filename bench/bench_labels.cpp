@@ -23,7 +23,6 @@
 #include "karvexutils.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPalette>
@@ -66,53 +65,21 @@ QWidget* makePlainLabel(int i, QWidget* parent) {
 }
 
 // The palette a host would build from the same theme data.
-QPalette paletteFor(BzThemeUtils::AppThemeType type, const QPalette& base) {
-    QPalette palette = base;
-    const auto normal = [type](const char* set) {
-        return BzThemeUtils::getColorSet(set, type).normal();
-    };
-    palette.setColor(QPalette::WindowText, normal("label-primary-text"));
-    palette.setColor(QPalette::Text, normal("label-primary-text"));
-    palette.setColor(QPalette::Window, normal("panel-primary-background"));
-    palette.setColor(QPalette::Base, normal("panel-primary-background"));
-    return palette;
-}
-
-double measureKaLabelSwitch(int count, int rounds) {
-    auto window = bench::makeGrid(count, makeKaLabel);
-    return bench::timeThemeSwitches(window.get(), rounds);
-}
-
-double measurePaletteSwitch(int count, int rounds) {
-    const QPalette original = QApplication::palette();
-    auto window = bench::makeGrid(count, makePlainLabel);
-    const double ms = bench::timePaletteSwitches(window.get(), paletteFor(BzThemeUtils::Dark, original),
-                                                 paletteFor(BzThemeUtils::Light, original), rounds);
-    window.reset();
-    bench::flushEvents();
-    return ms;
-}
+const bench::PaletteRoles kLabelPalette = {{QPalette::WindowText, "label-primary-text"},
+                                           {QPalette::Text, "label-primary-text"},
+                                           {QPalette::Window, "panel-primary-background"},
+                                           {QPalette::Base, "panel-primary-background"}};
 
 } // namespace
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QCommandLineParser parser;
-    parser.addHelpOption();
-    QCommandLineOption roundsOption(QStringLiteral("rounds"), QStringLiteral("Rounds per measurement."),
-                                    QStringLiteral("n"), QStringLiteral("7"));
-    QCommandLineOption labelsOption(QStringLiteral("labels"), QStringLiteral("Labels per side."),
-                                    QStringLiteral("n"), QStringLiteral("1000"));
-    QCommandLineOption heapOption(QStringLiteral("heap"),
-                                  QStringLiteral("Labels per side for the heap measurement."),
-                                  QStringLiteral("n"), QStringLiteral("5000"));
-    parser.addOption(roundsOption);
-    parser.addOption(labelsOption);
-    parser.addOption(heapOption);
-    parser.process(app);
-    const int rounds = std::max(1, parser.value(roundsOption).toInt());
-    const int count = std::max(1, parser.value(labelsOption).toInt());
-    const int heapCount = std::max(1, parser.value(heapOption).toInt());
+    const std::vector<int> counts =
+        bench::parseCounts(app, {{"labels", "Labels per side.", 1000},
+                                 {"heap", "Labels per side for the heap measurement.", 5000}});
+    const int rounds = counts[0];
+    const int count = counts[1];
+    const int heapCount = counts[2];
     // Both sides in the same style, the one the plain side is compared in.
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
@@ -122,13 +89,9 @@ int main(int argc, char** argv) {
     std::printf("create + lay out + paint, %d QLabels:  %8.2f ms\n", count, qc);
     std::printf("ratio: %.3f (bar: at most 1.3)\n\n", kc / qc);
 
-    std::vector<double> kaSwitch, plainSwitch;
-    for (int pass = 0; pass < 3; ++pass) {
-        kaSwitch.push_back(measureKaLabelSwitch(count, rounds));
-        plainSwitch.push_back(measurePaletteSwitch(count, rounds));
-    }
-    const double ks = bench::median(kaSwitch);
-    const double qs = bench::median(plainSwitch);
+    const auto [ks, qs] = bench::compareSwitches(
+        [&] { return bench::themeSwitchOver(count, makeKaLabel, rounds); },
+        [&] { return bench::paletteSwitchOver(count, makePlainLabel, kLabelPalette, rounds); });
     std::printf("theme switch, %d KaLabels: %8.2f ms (updateSolvaneThemes + queued slots + repaint)\n", count,
                 ks);
     std::printf("palette switch, %d QLabels: %8.2f ms (QApplication::setPalette + repaint)\n", count, qs);

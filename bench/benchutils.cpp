@@ -5,6 +5,7 @@
 #include "bzthememanager.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -119,7 +120,11 @@ double timeThemeSwitches(QWidget* window, int rounds) {
     return median(times);
 }
 
-double timePaletteSwitches(QWidget* window, const QPalette& first, const QPalette& second, int rounds) {
+// Median milliseconds of `rounds` QApplication::setPalette switches over
+// `window`, alternating `first` and `second`, with the repaint. Restores the
+// application palette it found.
+static double timePaletteSwitches(QWidget* window, const QPalette& first, const QPalette& second,
+                                  int rounds) {
     const QPalette original = QApplication::palette();
     const QPalette* palettes[] = {&first, &second};
     std::vector<double> times;
@@ -133,6 +138,61 @@ double timePaletteSwitches(QWidget* window, const QPalette& first, const QPalett
     }
     QApplication::setPalette(original);
     return median(times);
+}
+
+double themeSwitchOver(int count, const MakeWidget& make, int rounds) {
+    auto window = makeGrid(count, make);
+    const double ms = timeThemeSwitches(window.get(), rounds);
+    window.reset();
+    flushEvents();
+    return ms;
+}
+
+QPalette themePalette(BzThemeUtils::AppThemeType type, const QPalette& base, PaletteRoles roles) {
+    QPalette palette = base;
+    for (const auto& [role, set] : roles)
+        palette.setColor(role, BzThemeUtils::getColorSet(set, type).normal());
+    return palette;
+}
+
+double paletteSwitchOver(int count, const MakeWidget& make, PaletteRoles roles, int rounds) {
+    const QPalette original = QApplication::palette();
+    // Built before timing, as the theme data is for the library's side.
+    const QPalette dark = themePalette(BzThemeUtils::Dark, original, roles);
+    const QPalette light = themePalette(BzThemeUtils::Light, original, roles);
+    auto window = makeGrid(count, make);
+    const double ms = timePaletteSwitches(window.get(), dark, light, rounds);
+    window.reset();
+    flushEvents();
+    return ms;
+}
+
+std::pair<double, double> compareSwitches(const std::function<double()>& ours,
+                                          const std::function<double()>& plain) {
+    std::vector<double> a, b;
+    for (int pass = 0; pass < 3; ++pass) {
+        a.push_back(ours());
+        b.push_back(plain());
+    }
+    return {median(a), median(b)};
+}
+
+std::vector<int> parseCounts(const QCoreApplication& app, std::initializer_list<CountOption> counts) {
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    std::vector<QCommandLineOption> options;
+    options.emplace_back(QStringLiteral("rounds"), QStringLiteral("Rounds per measurement."),
+                         QStringLiteral("n"), QStringLiteral("7"));
+    for (const CountOption& count : counts)
+        options.emplace_back(QString::fromLatin1(count.name), QString::fromLatin1(count.description),
+                             QStringLiteral("n"), QString::number(count.defaultValue));
+    for (const QCommandLineOption& option : options)
+        parser.addOption(option);
+    parser.process(app);
+    std::vector<int> values;
+    for (const QCommandLineOption& option : options)
+        values.push_back(std::max(1, parser.value(option).toInt()));
+    return values;
 }
 
 } // namespace bench

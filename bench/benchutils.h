@@ -3,12 +3,16 @@
 // What the benchmarks share: medians, a shown and painted grid of widgets,
 // and the heap a shown widget holds.
 
+#include <bzthemeutils.h>
+
+#include <QCoreApplication>
 #include <QPalette>
 #include <QSize>
 #include <QWidget>
 
 #include <cstddef>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -55,11 +59,32 @@ std::pair<double, double> compareHeap(int count, const MakeWidget& ours, const M
 // queued slots and the repaint. Ends in the light theme.
 double timeThemeSwitches(QWidget* window, int rounds);
 
-// Median milliseconds of `rounds` QApplication::setPalette switches over
-// `window`, alternating `first` and `second` (built before timing, as the
-// theme data is for the library's side), with the repaint. Restores the
-// application palette it found.
-double timePaletteSwitches(QWidget* window, const QPalette& first, const QPalette& second, int rounds);
+// Median milliseconds of theme switches (timeThemeSwitches) over a fresh
+// grid of `count` widgets, torn down untimed afterwards.
+double themeSwitchOver(int count, const MakeWidget& make, int rounds);
+
+// Which palette role takes the normal colour of which colour set: how a host
+// would turn the same theme data into a palette for plain Qt widgets.
+using PaletteRoles = std::initializer_list<std::pair<QPalette::ColorRole, const char*>>;
+QPalette themePalette(BzThemeUtils::AppThemeType type, const QPalette& base, PaletteRoles roles);
+
+// As themeSwitchOver, for plain widgets: QApplication::setPalette between
+// the dark and the light themePalette().
+double paletteSwitchOver(int count, const MakeWidget& make, PaletteRoles roles, int rounds);
+
+// Medians of three alternating passes of each side's measurement.
+std::pair<double, double> compareSwitches(const std::function<double()>& ours,
+                                          const std::function<double()>& plain);
+
+// One count option of a benchmark's command line.
+struct CountOption {
+    const char* name;
+    const char* description;
+    int defaultValue;
+};
+// Parses --rounds (default 7) and `counts`; returns the rounds and then each
+// count, every value at least 1.
+std::vector<int> parseCounts(const QCoreApplication& app, std::initializer_list<CountOption> counts);
 
 // Deletes what is scheduled for deletion and settles posted events.
 void flushEvents();
