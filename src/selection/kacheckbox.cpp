@@ -6,13 +6,8 @@
 
 KaCheckBox::KaCheckBox(QWidget* parent)
     : QCheckBox(parent)
-    , m_indicator(new KaSelectionIndicator(KaSelectionIndicator::Box)) {
+    , m_indicator(new KaSelectionIndicator(KaSelectionIndicator::Box, this)) {
     setObjectName(QStringLiteral("CheckBox"));
-    setAttribute(Qt::WA_Hover);
-    setProperty("hasCustomRect", true);
-    setProperty("focusBorderRadius", 3.0);
-    setProperty("focusMargin", 3);
-    m_indicator->resolve(this);
 }
 
 KaCheckBox::KaCheckBox(const QString& text, QWidget* parent)

@@ -6,13 +6,8 @@
 
 KaRadioButton::KaRadioButton(QWidget* parent)
     : QRadioButton(parent)
-    , m_indicator(new KaSelectionIndicator(KaSelectionIndicator::Circle)) {
+    , m_indicator(new KaSelectionIndicator(KaSelectionIndicator::Circle, this)) {
     setObjectName(QStringLiteral("RadioButton"));
-    setAttribute(Qt::WA_Hover);
-    setProperty("hasCustomRect", true);
-    setProperty("focusBorderRadius", 8.0);
-    setProperty("focusMargin", 3);
-    m_indicator->resolve(this);
 }
 
 KaRadioButton::KaRadioButton(const QString& text, QWidget* parent)

@@ -20,8 +20,14 @@ BzColorSet set(Karvox::Token token, BzThemeUtils::AppThemeType type) {
 
 } // namespace
 
-KaSelectionIndicator::KaSelectionIndicator(Shape shape)
-    : m_shape(shape) {}
+KaSelectionIndicator::KaSelectionIndicator(Shape shape, QAbstractButton* button)
+    : m_shape(shape) {
+    button->setAttribute(Qt::WA_Hover);
+    button->setProperty("hasCustomRect", true);
+    button->setProperty("focusBorderRadius", shape == Box ? 3.0 : kIndicator / 2.0);
+    button->setProperty("focusMargin", 3);
+    resolve(button);
+}
 
 void KaSelectionIndicator::resolve(const QAbstractButton* button) {
     const BzThemeUtils::AppThemeType type = BzThemeUtils::getThemeTypeOfWidget(button);

@@ -16,7 +16,9 @@ public:
     enum Shape { Box, Circle };
     enum Mark { NoMark, Check, Dash, Dot };
 
-    explicit KaSelectionIndicator(Shape shape);
+    // Sets `button` up for the indicator (hover tracking, the ring round the
+    // indicator) and resolves its colours.
+    KaSelectionIndicator(Shape shape, QAbstractButton* button);
 
     // Resolves the colour sets for `button`'s theme type.
     void resolve(const QAbstractButton* button);
