@@ -54,7 +54,8 @@ void GalleryPage::setTitleSource(const char* title) {
 QSize GalleryPage::overflow() const {
     const QSize content = m_scrollArea->widget()->size();
     const QSize shown = m_scrollArea->viewport()->size();
-    return QSize(std::max(0, content.width() - shown.width()), std::max(0, content.height() - shown.height()));
+    return QSize(std::max(0, content.width() - shown.width()),
+                 std::max(0, content.height() - shown.height()));
 }
 
 void GalleryPage::setDescription(const QString& text) {
@@ -75,4 +76,18 @@ void GalleryPage::changeEvent(QEvent* event) {
         GalleryUtils::alignLabelsToLayoutDirection(this);
     }
     QWidget::changeEvent(event);
+}
+
+void GalleryPage::insertSection(QWidget* heading, QWidget* content) {
+    auto* section = new QWidget;
+    auto* layout = new QVBoxLayout(section);
+    layout->setContentsMargins(0, 12, 0, 4);
+    layout->setSpacing(10);
+    heading->setParent(section);
+    layout->addWidget(heading);
+    layout->addWidget(content);
+    // Before the closing stretch, so sections stay packed at the top.
+    contentLayout()->insertWidget(contentLayout()->count() - 1, section);
+    if (isVisible())
+        GalleryUtils::alignLabelsToLayoutDirection(section);
 }

@@ -22,6 +22,10 @@ public:
 
 protected:
     QVBoxLayout* contentLayout() const { return m_contentLayout; }
+    // Adds `heading` over `content` as one section, above the closing
+    // stretch of the content layout; pages that take sections one by one
+    // call it from their own addSection().
+    void insertSection(QWidget* heading, QWidget* content);
     QScrollArea* scrollArea() const { return m_scrollArea; }
     void setDescription(const QString& text);
     // Sets every user-visible text; call it at the end of the constructor.

@@ -145,7 +145,7 @@ void TextFieldsSection::changeEvent(QEvent* event) {
 
 KaLabelBase* TextFieldsSection::heading() {
     KaLabelBase* label =
-        GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Subtitle, this);
+        GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Button, this);
     GalleryUtils::markAsHeading(label);
     m_headings << label;
     return label;

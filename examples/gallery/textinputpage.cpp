@@ -64,24 +64,14 @@ TextInputPage::TextInputPage(QWidget* parent)
 }
 
 void TextInputPage::addSection(const char* title, QWidget* content) {
-    if (!content)
-        return;
-    auto* section = new QWidget;
-    auto* layout = new QVBoxLayout(section);
-    layout->setContentsMargins(0, 12, 0, 4);
-    layout->setSpacing(10);
-    layout->addWidget(addLabel(title, section, true));
-    layout->addWidget(content);
-    // Before the closing stretch, so sections stay packed at the top.
-    contentLayout()->insertWidget(contentLayout()->count() - 1, section);
-    if (isVisible())
-        GalleryUtils::alignLabelsToLayoutDirection(section);
+    if (content)
+        insertSection(addLabel(title, nullptr, true), content);
 }
 
 KaLabelBase* TextInputPage::addLabel(const char* source, QWidget* parent, bool heading) {
     KaLabelBase* label =
         heading
-            ? GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Title, parent)
+            ? GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Subtitle, parent)
             : GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::BodySmall, parent);
     if (heading)
         GalleryUtils::markAsHeading(label);
