@@ -1,5 +1,6 @@
 #include "kacomboboxbase.h"
 
+#include "kafocusstyle.h"
 #include "kascrollbarutils.h"
 
 #include <apputils.h>
@@ -20,7 +21,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
-#include <QStyleOptionFocusRect>
 #include <QTimer>
 #include <QToolTip>
 
@@ -615,9 +615,7 @@ void KaComboBoxBase::paintEvent(QPaintEvent*) {
     drawDropdownIcon(&painter, option);
     if ((option.state & QStyle::State_HasFocus) && (option.state & QStyle::State_KeyboardFocusChange) &&
         isKeyboardFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+        KaFocusStyle::requestRing(this, &painter);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "kacomboboxdelegate.h"
 
 #include "kacolortokenutils.h"
+#include "kafocusstyle.h"
 #include "karvoxtoken.h"
 
 #include <apputils.h>
@@ -12,7 +13,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmapCache>
-#include <QStyleOptionFocusRect>
 
 namespace {
 constexpr int kMinimumRowHeight = 40;
@@ -137,10 +137,7 @@ void KaComboBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
         if ((option.state & QStyle::State_HasFocus) && (option.state & QStyle::State_KeyboardFocusChange) &&
             qApp->property("isKeyboardFocus").toBool()) {
             const int shift = AppUtils::isRTLLayoutDirection() ? widget->width() - r.width() - 1 : 1;
-            QStyleOptionFocusRect focus;
-            focus.initFrom(widget);
-            focus.rect = inset.adjusted(shift + 1, 1, shift - 1, -1);
-            QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, widget);
+            KaFocusStyle::requestRing(widget, painter, inset.adjusted(shift + 1, 1, shift - 1, -1));
         }
     }
 
