@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QPainter>
 #include <QTest>
 
 using namespace ButtonTest;
@@ -39,6 +40,31 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(rendered(&slider).pixelColor(minimumSide),
                  colorOf("slider-track-indicator-background", BzThemeUtils::Dark));
+    }
+
+    // A disabled slider still shows where it stands, high contrast included.
+    void disabledTrackStaysVisible_data() {
+        QTest::addColumn<QByteArray>("theme");
+        QTest::newRow("light") << QByteArray("light");
+        QTest::newRow("dark") << QByteArray("dark");
+        QTest::newRow("high contrast") << QByteArray("highContrast");
+    }
+    void disabledTrackStaysVisible() {
+        QFETCH(QByteArray, theme);
+        switchTheme(theme.constData());
+        KaSlider slider{Qt::Horizontal};
+        slider.resize(200, 24);
+        slider.setRange(0, 100);
+        slider.setValue(50);
+        slider.setEnabled(false);
+        const QColor surface = colorOf("panel-primary-background");
+        const QImage image = rendered(&slider);
+        for (const QPoint at : {QPoint(50, 12), QPoint(150, 12)}) {
+            QImage behind(1, 1, QImage::Format_ARGB32_Premultiplied);
+            behind.fill(surface);
+            QPainter(&behind).fillRect(0, 0, 1, 1, image.pixelColor(at));
+            QVERIFY2(behind.pixelColor(0, 0) != surface, qPrintable(QStringLiteral("x = %1").arg(at.x())));
+        }
     }
 
     void keyboardStepsAreAnnounced() {

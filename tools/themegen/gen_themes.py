@@ -346,6 +346,9 @@ def scrim(T):
 # Rules: regular expression (full match) -> role. {1} takes the hue from the
 # first group. "+sel" marks selectable things whose checked state is the
 # selection colour; "~1"/"~2" starts one or two emphasis steps further.
+# "+graphic" marks fills that carry meaning on their own (a slider's track):
+# high contrast keeps them visible when disabled, in the disabled line grey,
+# or with "+graphic:strong" in the brighter disabled text grey.
 
 RULES = [
     # global
@@ -651,9 +654,9 @@ RULES = [
     (r"pickers-dayPicker-day-inactive-text", "text:1"),
     (r"slider-handle-background", "fill:brand"),
     (r"slider-handle-border", "surfline:0"),
-    (r"slider-track-buffer-background", "n:buffer"),
-    (r"slider-track-empty-background", "n:track"),
-    (r"slider-track-indicator-background", "fill:brand"),
+    (r"slider-track-buffer-background", "n:buffer +graphic"),
+    (r"slider-track-empty-background", "n:track +graphic"),
+    (r"slider-track-indicator-background", "fill:brand +graphic:strong"),
 
     # header, lists, navigation
     (r"globalHeader-container-background", "surf:1"),
@@ -1025,7 +1028,12 @@ def derive_states(T, name, role, arg, flags, col):
     if cat == "bg":
         hov, prs = shift(T, col, 1), shift(T, col, 2)
         chk = selection_bg(T) if sel else prs
-        return [col, hov, prs, disabled_bg(T, col), col, chk]
+        dis = disabled_bg(T, col)
+        if hc and "+graphic" in flags:
+            dis = gray(T["disabledLine"])
+        elif hc and "+graphic:strong" in flags:
+            dis = gray(T["disabledText"])
+        return [col, hov, prs, dis, col, chk]
     if cat == "line":
         if hc and role in BORDER_ROLES:
             hov = WHITE if is_yellowish(col) else fill_color(T, "brand")
