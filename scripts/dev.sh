@@ -39,6 +39,8 @@ build() { # build DIR [cmake options...]; later options override the default bui
         launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
         # Fresh clones in other folders still hit the cache, Debug builds too.
         export CCACHE_BASEDIR="$here" CCACHE_NOHASHDIR=true
+        # The tests share precompiled headers; these let ccache cache them.
+        export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
     fi
     # Warnings fail the build, with GCC and with clang alike.
     cmake -S . -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=Release -DKARVEX_WERROR=ON "${launcher[@]}" "$@"

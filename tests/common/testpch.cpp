@@ -1,0 +1,1 @@
+// Compiles the precompiled header that the tests share; nothing else.
