@@ -13,9 +13,7 @@ using namespace ButtonTest;
 class tst_KaAvatarView : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
-
-    void cleanup() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+    void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
 
     void withoutLoader() {
         KaAvatarView view(nullptr);

@@ -27,9 +27,7 @@ QImage image(KaPixmapLoader& loader, const KaAvatarConfig& config) {
 class tst_KaPixmapLoader : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
-
-    void cleanup() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+    void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
 
     void presenceGeometry_data() {
         QTest::addColumn<int>("size");

@@ -1,7 +1,6 @@
 #include "buttontestutils.h"
-#include "customfocusoverlay.h"
+#include "focusringtest.h"
 #include "kaalertbanner.h"
-#include "kafocusstyle.h"
 #include "kasvglabel.h"
 #include "testhelpers.h"
 
@@ -11,7 +10,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLayout>
-#include <QStyleFactory>
 
 using namespace ButtonTest;
 
@@ -20,8 +18,7 @@ class tst_KaAlertBanner : public QObject {
 private Q_SLOTS:
     void initTestCase() {
         BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-        QApplication::setStyle(new KaFocusStyle("global-focus-outline", "textinput-background", false,
-                                                QStyleFactory::create(QStringLiteral("Fusion"))));
+        FocusRingTest::installStyle();
     }
 
     void cleanup() {
@@ -259,15 +256,9 @@ private Q_SLOTS:
         qApp->setProperty("isKeyboardFocus", true);
         focused->setFocus(Qt::TabFocusReason);
         QTRY_VERIFY(focused->hasFocus());
-        const auto visibleRing = [&window] {
-            for (auto* overlay : window.findChildren<CustomFocusOverlay*>())
-                if (overlay->isVisible())
-                    return overlay;
-            return static_cast<CustomFocusOverlay*>(nullptr);
-        };
-        QTRY_VERIFY(visibleRing());
+        QTRY_VERIFY(FocusRingTest::visibleRing(window));
         const QRect around(focused->mapTo(&window, QPoint()), focused->size());
-        QVERIFY(visibleRing()->geometry().contains(around));
+        QVERIFY(FocusRingTest::visibleRing(window)->geometry().contains(around));
     }
 
 private:

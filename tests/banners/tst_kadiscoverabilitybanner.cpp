@@ -16,9 +16,7 @@ using Type = KaDiscoverabilityEnum::DiscoverabilityLabelType;
 class tst_KaDiscoverabilityBanner : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
-
-    void cleanup() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+    void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
 
     void heightFormula_data() {
         QTest::addColumn<qreal>("document");

@@ -22,9 +22,7 @@ struct TickCounter : QObject {
 class tst_KaProgressBar : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
-
-    void cleanup() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+    void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
 
     void badInput_data() {
         QTest::addColumn<int>("minimum");

@@ -27,9 +27,7 @@ struct Watcher : QObject {
 class tst_KaSpinner : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
-
-    void cleanup() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+    void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
 
     void sizes_data() {
         QTest::addColumn<int>("size");

@@ -7,6 +7,14 @@
 #include <QSignalSpy>
 #include <QTest>
 
+namespace {
+BzCSSData textRecord(const QString& set) {
+    BzCSSData data;
+    data.textColorSet = set;
+    return data;
+}
+} // namespace
+
 class TestKaLabelBase : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -133,12 +141,6 @@ private Q_SLOTS:
         QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Greeting"));
     }
 };
-
-static BzCSSData textRecord(const QString& set) {
-    BzCSSData data;
-    data.textColorSet = set;
-    return data;
-}
 
 QTEST_MAIN(TestKaLabelBase)
 #include "tst_kalabelbase.moc"

@@ -1,15 +1,12 @@
 #include "buttontestutils.h"
-#include "customfocusoverlay.h"
+#include "focusringtest.h"
 #include "kabadge.h"
-#include "kacolortokenutils.h"
-#include "kafocusstyle.h"
 #include "karoundbadgebutton.h"
 #include "testhelpers.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QSignalSpy>
-#include <QStyleFactory>
 #include <QTest>
 
 using namespace ButtonTest;
@@ -82,10 +79,7 @@ private Q_SLOTS:
     // The face and the badge follow a theme switch; keyboard focus rings the
     // circle.
     void themeAndFocusRing() {
-        QApplication::setStyle(
-            new KaFocusStyle(KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline),
-                             KaColorTokenUtils::tokenToStdString(Karvox::textinput_background), false,
-                             QStyleFactory::create(QStringLiteral("Fusion"))));
+        FocusRingTest::installStyle();
         qApp->setProperty("isKeyboardFocus", true);
         QWidget window;
         KaRoundBadgeButton button(&window, KaButtonEnum::Join, KaButtonEnum::ExtraLarge);
@@ -98,8 +92,7 @@ private Q_SLOTS:
         QVERIFY(BzTest::near(pixelAt(&button, badgeFace), colorOf("badge-background")));
 
         button.setFocus(Qt::TabFocusReason);
-        QTRY_VERIFY(!window.findChildren<CustomFocusOverlay*>().isEmpty() &&
-                    window.findChildren<CustomFocusOverlay*>().constLast()->isVisible());
+        QTRY_VERIFY(FocusRingTest::visibleRing(window));
 
         const QColor lightFace = colorOf("button-join-fill-background");
         const QColor lightBadge = colorOf("badge-background");
