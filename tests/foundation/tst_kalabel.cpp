@@ -196,7 +196,6 @@ private Q_SLOTS:
 
         QClipboard* clipboard = QGuiApplication::clipboard();
         clipboard->setText(QString::fromLatin1(kSentinel), QClipboard::Clipboard);
-        QCOMPARE(clipboard->text(QClipboard::Clipboard), QString::fromLatin1(kSentinel));
 
         QWidget parent;
         KeyPressCounter counter;
