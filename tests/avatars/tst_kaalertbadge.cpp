@@ -11,86 +11,77 @@ using namespace ButtonTest;
 class tst_KaAlertBadge : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void cleanup();
-    void styles_data();
-    void styles();
-    void unknownStyle();
-    void customIcon();
-    void spokenAndNotFocusable();
+    void cleanup() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+
+    void styles_data() {
+        QTest::addColumn<int>("style");
+        QTest::addColumn<QString>("background");
+        QTest::addColumn<bool>("icon");
+        QTest::newRow("DefaultBadge")
+            << int(KaBadgeEnum::DefaultBadge) << QStringLiteral("alertbadge-default-background") << false;
+        QTest::newRow("Announcement")
+            << int(KaBadgeEnum::Announcement) << QStringLiteral("alertbadge-announcement-background") << true;
+        QTest::newRow("AlertWarning")
+            << int(KaBadgeEnum::AlertWarning) << QStringLiteral("alertbadge-warning-background") << true;
+        QTest::newRow("Important") << int(KaBadgeEnum::Important)
+                                   << QStringLiteral("alertbadge-important-background") << true;
+        QTest::newRow("AlertGeneral")
+            << int(KaBadgeEnum::AlertGeneral) << QStringLiteral("alertbadge-blocked-background") << true;
+    }
+
+    // Each style paints its face, shows its icon 8 px in, and follows a theme
+    // switch.
+    void styles() {
+        QFETCH(int, style);
+        QFETCH(QString, background);
+        QFETCH(bool, icon);
+        const QByteArray name = background.toLatin1();
+        QWidget window;
+        KaAlertBadge badge(QStringLiteral("External"), KaBadgeEnum::Style(style), &window);
+        QVERIFY(shown(window, QRect(300, 300, 200, 60)));
+        QCOMPARE(badge.height(), 20);
+        QCOMPARE(badge.style(), KaBadgeEnum::Style(style));
+        QCOMPARE(badge.isSvgIconVisible(), icon);
+        QCOMPARE(badge.leftIcon().isEmpty(), !icon);
+        if (icon)
+            QCOMPARE(badge.svgIconRect().left(), 8);
+        QVERIFY(BzTest::near(pixelAt(&badge, QPoint(badge.width() - 3, 10)), colorOf(name.constData())));
+
+        const QColor light = colorOf(name.constData());
+        // High contrast changes every one of these faces.
+        switchTheme("highContrast");
+        QVERIFY(colorOf(name.constData()) != light);
+        QTRY_VERIFY(BzTest::near(pixelAt(&badge, QPoint(badge.width() - 3, 10)), colorOf(name.constData())));
+    }
+
+    void unknownStyle() {
+        KaAlertBadge badge(QStringLiteral("Blocked"), KaBadgeEnum::AlertGeneral);
+        QSignalSpy spy(&badge, &KaAlertBadge::styleChanged);
+        QTest::ignoreMessage(QtWarningMsg, "KaAlertBadgeConfig: unknown badge style 7, using DefaultBadge");
+        badge.setStyle(KaBadgeEnum::Style(7));
+        QCOMPARE(badge.style(), KaBadgeEnum::DefaultBadge);
+        QVERIFY(badge.leftIcon().isEmpty());
+        QCOMPARE(spy.count(), 1);
+        badge.setStyle(KaBadgeEnum::DefaultBadge);
+        QCOMPARE(spy.count(), 1);
+    }
+
+    void customIcon() {
+        KaAlertBadge badge(QStringLiteral("Guest"), KaBadgeEnum::Important);
+        badge.setIconPath(QStringLiteral("qrc:/Resources/warning-filled.svg"));
+        QCOMPARE(badge.svgIcon(), QStringLiteral("qrc:/Resources/warning-filled.svg"));
+        badge.setStyle(KaBadgeEnum::Announcement);
+        QCOMPARE(badge.svgIcon(), QStringLiteral("qrc:/Resources/announcement-bold.svg"));
+    }
+
+    void spokenAndNotFocusable() {
+        KaAlertBadge badge(QStringLiteral("External"), KaBadgeEnum::AlertWarning);
+        QCOMPARE(badge.focusPolicy(), Qt::NoFocus);
+        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&badge);
+        QVERIFY(iface);
+        QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("External"));
+    }
 };
-
-void tst_KaAlertBadge::cleanup() {
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-}
-
-void tst_KaAlertBadge::styles_data() {
-    QTest::addColumn<int>("style");
-    QTest::addColumn<QString>("background");
-    QTest::addColumn<bool>("icon");
-    QTest::newRow("DefaultBadge") << int(KaBadgeEnum::DefaultBadge)
-                                  << QStringLiteral("alertbadge-default-background") << false;
-    QTest::newRow("Announcement") << int(KaBadgeEnum::Announcement)
-                                  << QStringLiteral("alertbadge-announcement-background") << true;
-    QTest::newRow("AlertWarning") << int(KaBadgeEnum::AlertWarning)
-                                  << QStringLiteral("alertbadge-warning-background") << true;
-    QTest::newRow("Important") << int(KaBadgeEnum::Important)
-                               << QStringLiteral("alertbadge-important-background") << true;
-    QTest::newRow("AlertGeneral") << int(KaBadgeEnum::AlertGeneral)
-                                  << QStringLiteral("alertbadge-blocked-background") << true;
-}
-
-// Each style paints its face, shows its icon 8 px in, and follows a theme
-// switch.
-void tst_KaAlertBadge::styles() {
-    QFETCH(int, style);
-    QFETCH(QString, background);
-    QFETCH(bool, icon);
-    const QByteArray name = background.toLatin1();
-    QWidget window;
-    KaAlertBadge badge(QStringLiteral("External"), KaBadgeEnum::Style(style), &window);
-    QVERIFY(shown(window, QRect(300, 300, 200, 60)));
-    QCOMPARE(badge.height(), 20);
-    QCOMPARE(badge.style(), KaBadgeEnum::Style(style));
-    QCOMPARE(badge.isSvgIconVisible(), icon);
-    QCOMPARE(badge.leftIcon().isEmpty(), !icon);
-    if (icon)
-        QCOMPARE(badge.svgIconRect().left(), 8);
-    QVERIFY(BzTest::near(pixelAt(&badge, QPoint(badge.width() - 3, 10)), colorOf(name.constData())));
-
-    const QColor light = colorOf(name.constData());
-    // High contrast changes every one of these faces.
-    switchTheme("highContrast");
-    QVERIFY(colorOf(name.constData()) != light);
-    QTRY_VERIFY(BzTest::near(pixelAt(&badge, QPoint(badge.width() - 3, 10)), colorOf(name.constData())));
-}
-
-void tst_KaAlertBadge::unknownStyle() {
-    KaAlertBadge badge(QStringLiteral("Blocked"), KaBadgeEnum::AlertGeneral);
-    QSignalSpy spy(&badge, &KaAlertBadge::styleChanged);
-    QTest::ignoreMessage(QtWarningMsg, "KaAlertBadgeConfig: unknown badge style 7, using DefaultBadge");
-    badge.setStyle(KaBadgeEnum::Style(7));
-    QCOMPARE(badge.style(), KaBadgeEnum::DefaultBadge);
-    QVERIFY(badge.leftIcon().isEmpty());
-    QCOMPARE(spy.count(), 1);
-    badge.setStyle(KaBadgeEnum::DefaultBadge);
-    QCOMPARE(spy.count(), 1);
-}
-
-void tst_KaAlertBadge::customIcon() {
-    KaAlertBadge badge(QStringLiteral("Guest"), KaBadgeEnum::Important);
-    badge.setIconPath(QStringLiteral("qrc:/Resources/warning-filled.svg"));
-    QCOMPARE(badge.svgIcon(), QStringLiteral("qrc:/Resources/warning-filled.svg"));
-    badge.setStyle(KaBadgeEnum::Announcement);
-    QCOMPARE(badge.svgIcon(), QStringLiteral("qrc:/Resources/announcement-bold.svg"));
-}
-
-void tst_KaAlertBadge::spokenAndNotFocusable() {
-    KaAlertBadge badge(QStringLiteral("External"), KaBadgeEnum::AlertWarning);
-    QCOMPARE(badge.focusPolicy(), Qt::NoFocus);
-    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&badge);
-    QVERIFY(iface);
-    QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("External"));
-}
 
 QTEST_MAIN(tst_KaAlertBadge)
 #include "tst_kaalertbadge.moc"

@@ -117,7 +117,6 @@ private Q_SLOTS:
         Colors colors;
         colors.hasBorder = allSides(!drawn);
         colors.setBorderColorSet(name);
-        QCOMPARE(colors.borderColorSet, name);
         QCOMPARE(colors.hasBorder, allSides(drawn));
         QCOMPARE(colors.hasAnyBorder(), drawn);
     }

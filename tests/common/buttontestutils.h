@@ -9,6 +9,7 @@
 #include "kaconfig.h"
 #include "karvexutils.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QTest>
 #include <QWidget>
@@ -56,6 +57,14 @@ struct HighContrastScope {
     window.setGeometry(geometry);
     window.show();
     return QTest::qWaitForWindowExposed(&window);
+}
+
+// Shows `window` as it is and waits until it is the active window, which
+// keyboard focus (and so the focus ring) needs.
+[[nodiscard]] inline bool activated(QWidget& window) {
+    window.show();
+    QApplication::setActiveWindow(&window);
+    return QTest::qWaitForWindowActive(&window);
 }
 
 } // namespace ButtonTest

@@ -32,207 +32,191 @@ const char kSentinel[] = "clipboard before the key press";
 class tst_KaLabel : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
+    void init() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
 
-    void defaultColorSet_data();
-    void defaultColorSet();
-    void textColorSetName();
+    void defaultColorSet_data() {
+        QTest::addColumn<int>("constructor");
+        QTest::newRow("parent") << 0;
+        QTest::newRow("parent, role, flags") << 1;
+        QTest::newRow("text, parent, role, flags") << 2;
+    }
 
-    void sizeHint_data();
-    void sizeHint();
-    void richTextWidth();
-    void autoResizeToggle();
+    void defaultColorSet() {
+        QFETCH(int, constructor);
+        QWidget parent;
+        KaLabel* label = nullptr;
+        switch (constructor) {
+        case 0:
+            label = new KaLabel(&parent);
+            break;
+        case 1:
+            label = new KaLabel(&parent, QAccessible::StaticText, Qt::WindowFlags());
+            break;
+        default:
+            label = new KaLabel(QStringLiteral("abc"), &parent, QAccessible::StaticText, Qt::WindowFlags());
+            break;
+        }
+        QCOMPARE(label->textColorSetName(), QStringLiteral("label-primary-text"));
+        QVERIFY(label->autoResize());
+        const BzColorSet set = BzThemeUtils::getColorSet("label-primary-text");
+        label->setText(QStringLiteral("HHH"));
+        QCOMPARE(BzTest::textColour(*label).rgb(), set.normal().rgb());
+        // The record names nothing but the text colour set.
+        const BzCSSData record = label->getWCSS();
+        QVERIFY(record.backgroundColorSet.isEmpty());
+        QVERIFY(record.borderColorSet.isEmpty());
+        QVERIFY(!record.hasAnyBorder());
+    }
 
-    void copy_data();
-    void copy();
+    void textColorSetName() {
+        KaLabel label(QStringLiteral("abc"));
+        label.setTextColorSetName(QStringLiteral("label-error-text"));
+        QCOMPARE(label.textColorSetName(), QStringLiteral("label-error-text"));
+        QCOMPARE(BzTest::textColour(label).rgb(),
+                 BzThemeUtils::getColorSet("label-error-text").normal().rgb());
+        // The base layer keeps it on a theme switch without help from the label.
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
+        QCOMPARE(BzTest::textColour(label).rgb(),
+                 BzThemeUtils::getColorSet("label-error-text", BzThemeUtils::Dark).normal().rgb());
+    }
+
+    void sizeHint_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("margin");
+        QTest::addColumn<bool>("autoResize");
+        QTest::addColumn<bool>("wordWrap");
+        QTest::addColumn<int>("maxWidth");
+        // -1: as QLabel; -2: the text's bounding width + 2 x margin + 1; else that width.
+        QTest::addColumn<int>("expectedWidth");
+        QTest::addColumn<bool>("labelHeight"); // height of QLabel::sizeHint
+
+        const QString longText =
+            QStringLiteral("A sentence long enough to need wrapping in a narrow label, surely.");
+        QTest::newRow("abc") << "abc" << 0 << true << false << QWIDGETSIZE_MAX << -2 << true;
+        QTest::newRow("abc, margin 5") << "abc" << 5 << true << false << QWIDGETSIZE_MAX << -2 << true;
+        QTest::newRow("empty") << "" << 0 << true << false << QWIDGETSIZE_MAX << 1 << true;
+        QTest::newRow("auto-resize off") << "abc" << 3 << false << false << QWIDGETSIZE_MAX << -1 << true;
+        QTest::newRow("auto-resize off, wrap") << longText << 0 << false << true << 120 << -1 << true;
+        QTest::newRow("wrap, no max width") << longText << 0 << true << true << QWIDGETSIZE_MAX << -1 << true;
+        QTest::newRow("wrap, narrower max width") << longText << 0 << true << true << 120 << 120 << true;
+        QTest::newRow("wrap, max width exactly reached") << "abc" << 0 << true << true << 0 << 0 << true;
+        QTest::newRow("wrap, wide max width") << "abc" << 2 << true << true << 500 << -2 << true;
+    }
+
+    void sizeHint() {
+        QFETCH(QString, text);
+        QFETCH(int, margin);
+        QFETCH(bool, autoResize);
+        QFETCH(bool, wordWrap);
+        QFETCH(int, maxWidth);
+        QFETCH(int, expectedWidth);
+
+        KaLabel label(text);
+        label.setMargin(margin);
+        label.setWordWrap(wordWrap);
+        label.setAutoResize(autoResize);
+        const int bounding = QFontMetrics(label.font()).boundingRect(text).width();
+        if (maxWidth == 0) // "exactly reached": the maximum is the label's own width
+            maxWidth = bounding + 1;
+        label.setMaximumWidth(maxWidth);
+
+        // A plain QLabel configured the same way gives the reference values.
+        QLabel reference(text);
+        reference.setFont(label.font());
+        reference.setMargin(margin);
+        reference.setWordWrap(wordWrap);
+        reference.setMaximumWidth(maxWidth);
+        const QSize plain = reference.sizeHint();
+
+        const QSize hint = label.sizeHint();
+        QCOMPARE(hint.height(), plain.height());
+        if (expectedWidth == -1)
+            QCOMPARE(hint, plain);
+        else if (expectedWidth == -2)
+            QCOMPARE(hint.width(), bounding + 2 * margin + 1);
+        else
+            QCOMPARE(hint.width(), expectedWidth == 0 ? maxWidth : expectedWidth);
+    }
+
+    void richTextWidth() {
+        const QString html = QStringLiteral("<b>bold</b> and <i>italic</i>");
+        KaLabel label(html);
+        label.setTextFormat(Qt::RichText);
+        QTextDocument document;
+        document.setDefaultFont(label.font());
+        document.setHtml(html);
+        QCOMPARE(label.sizeHint().width(), int(document.size().width()) + 1);
+        // Not the width of the markup itself.
+        QVERIFY(label.sizeHint().width() < QFontMetrics(label.font()).boundingRect(html).width());
+    }
+
+    void autoResizeToggle() {
+        KaLabel label(QStringLiteral("abc"));
+        label.setMargin(4);
+        const QSize automatic = label.sizeHint();
+        label.setAutoResize(false);
+        QVERIFY(!label.autoResize());
+        QLabel reference(QStringLiteral("abc"));
+        reference.setFont(label.font());
+        reference.setMargin(4);
+        QCOMPARE(label.sizeHint(), reference.sizeHint());
+        QVERIFY(label.sizeHint() != automatic);
+        label.setAutoResize(true);
+        QCOMPARE(label.sizeHint(), automatic);
+    }
+
+    void copy_data() {
+        QTest::addColumn<bool>("select");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::addColumn<bool>("copied");
+        QTest::addColumn<bool>("passedOn");
+
+        QTest::newRow("Ctrl+C with selection")
+            << true << int(Qt::Key_C) << Qt::KeyboardModifiers(Qt::ControlModifier) << true << false;
+        QTest::newRow("Ctrl+Shift+C")
+            << true << int(Qt::Key_C) << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::ShiftModifier)
+            << false << true;
+        QTest::newRow("Ctrl+Alt+C") << true << int(Qt::Key_C)
+                                    << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::AltModifier) << false
+                                    << true;
+        QTest::newRow("C alone") << true << int(Qt::Key_C) << Qt::KeyboardModifiers() << false << true;
+        QTest::newRow("Ctrl+X") << true << int(Qt::Key_X) << Qt::KeyboardModifiers(Qt::ControlModifier)
+                                << false << true;
+        QTest::newRow("Ctrl+C without selection")
+            << false << int(Qt::Key_C) << Qt::KeyboardModifiers(Qt::ControlModifier) << false << true;
+    }
+
+    void copy() {
+        QFETCH(bool, select);
+        QFETCH(int, key);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        QFETCH(bool, copied);
+        QFETCH(bool, passedOn);
+
+        QClipboard* clipboard = QGuiApplication::clipboard();
+        clipboard->setText(QString::fromLatin1(kSentinel), QClipboard::Clipboard);
+
+        QWidget parent;
+        KeyPressCounter counter;
+        counter.key = key;
+        parent.installEventFilter(&counter);
+        KaLabel label(QStringLiteral("copy me please"), &parent);
+        // Without a selection the label is not selectable at all, so QLabel
+        // itself ignores the key and the parent shows whether it was passed on.
+        if (select) {
+            label.setTextInteractionFlags(Qt::TextSelectableByMouse);
+            label.setSelection(5, 2);
+        }
+        QCOMPARE(label.hasSelectedText(), select);
+
+        QTest::keyClick(&label, Qt::Key(key), modifiers);
+        QCOMPARE(clipboard->text(QClipboard::Clipboard),
+                 copied ? QStringLiteral("me") : QString::fromLatin1(kSentinel));
+        // Keys the label does not take travel on to the parent.
+        QCOMPARE(counter.presses > 0, passedOn);
+    }
 };
-
-void tst_KaLabel::init() {
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
-}
-
-void tst_KaLabel::defaultColorSet_data() {
-    QTest::addColumn<int>("constructor");
-    QTest::newRow("parent") << 0;
-    QTest::newRow("parent, role, flags") << 1;
-    QTest::newRow("text, parent, role, flags") << 2;
-}
-
-void tst_KaLabel::defaultColorSet() {
-    QFETCH(int, constructor);
-    QWidget parent;
-    KaLabel* label = nullptr;
-    switch (constructor) {
-    case 0:
-        label = new KaLabel(&parent);
-        break;
-    case 1:
-        label = new KaLabel(&parent, QAccessible::StaticText, Qt::WindowFlags());
-        break;
-    default:
-        label = new KaLabel(QStringLiteral("abc"), &parent, QAccessible::StaticText, Qt::WindowFlags());
-        break;
-    }
-    QCOMPARE(label->textColorSetName(), QStringLiteral("label-primary-text"));
-    QVERIFY(label->autoResize());
-    const BzColorSet set = BzThemeUtils::getColorSet("label-primary-text");
-    label->setText(QStringLiteral("HHH"));
-    QCOMPARE(BzTest::textColour(*label).rgb(), set.normal().rgb());
-    // The record names nothing but the text colour set.
-    const BzCSSData record = label->getWCSS();
-    QVERIFY(record.backgroundColorSet.isEmpty());
-    QVERIFY(record.borderColorSet.isEmpty());
-    QVERIFY(!record.hasAnyBorder());
-}
-
-void tst_KaLabel::textColorSetName() {
-    KaLabel label(QStringLiteral("abc"));
-    label.setTextColorSetName(QStringLiteral("label-error-text"));
-    QCOMPARE(label.textColorSetName(), QStringLiteral("label-error-text"));
-    QCOMPARE(BzTest::textColour(label).rgb(), BzThemeUtils::getColorSet("label-error-text").normal().rgb());
-    // The base layer keeps it on a theme switch without help from the label.
-    BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
-    QCOMPARE(BzTest::textColour(label).rgb(),
-             BzThemeUtils::getColorSet("label-error-text", BzThemeUtils::Dark).normal().rgb());
-}
-
-void tst_KaLabel::sizeHint_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("margin");
-    QTest::addColumn<bool>("autoResize");
-    QTest::addColumn<bool>("wordWrap");
-    QTest::addColumn<int>("maxWidth");
-    // -1: as QLabel; -2: the text's bounding width + 2 x margin + 1; else that width.
-    QTest::addColumn<int>("expectedWidth");
-    QTest::addColumn<bool>("labelHeight"); // height of QLabel::sizeHint
-
-    const QString longText =
-        QStringLiteral("A sentence long enough to need wrapping in a narrow label, surely.");
-    QTest::newRow("abc") << "abc" << 0 << true << false << QWIDGETSIZE_MAX << -2 << true;
-    QTest::newRow("abc, margin 5") << "abc" << 5 << true << false << QWIDGETSIZE_MAX << -2 << true;
-    QTest::newRow("empty") << "" << 0 << true << false << QWIDGETSIZE_MAX << 1 << true;
-    QTest::newRow("auto-resize off") << "abc" << 3 << false << false << QWIDGETSIZE_MAX << -1 << true;
-    QTest::newRow("auto-resize off, wrap") << longText << 0 << false << true << 120 << -1 << true;
-    QTest::newRow("wrap, no max width") << longText << 0 << true << true << QWIDGETSIZE_MAX << -1 << true;
-    QTest::newRow("wrap, narrower max width") << longText << 0 << true << true << 120 << 120 << true;
-    QTest::newRow("wrap, max width exactly reached") << "abc" << 0 << true << true << 0 << 0 << true;
-    QTest::newRow("wrap, wide max width") << "abc" << 2 << true << true << 500 << -2 << true;
-}
-
-void tst_KaLabel::sizeHint() {
-    QFETCH(QString, text);
-    QFETCH(int, margin);
-    QFETCH(bool, autoResize);
-    QFETCH(bool, wordWrap);
-    QFETCH(int, maxWidth);
-    QFETCH(int, expectedWidth);
-
-    KaLabel label(text);
-    label.setMargin(margin);
-    label.setWordWrap(wordWrap);
-    label.setAutoResize(autoResize);
-    const int bounding = QFontMetrics(label.font()).boundingRect(text).width();
-    if (maxWidth == 0) // "exactly reached": the maximum is the label's own width
-        maxWidth = bounding + 1;
-    label.setMaximumWidth(maxWidth);
-
-    // A plain QLabel configured the same way gives the reference values.
-    QLabel reference(text);
-    reference.setFont(label.font());
-    reference.setMargin(margin);
-    reference.setWordWrap(wordWrap);
-    reference.setMaximumWidth(maxWidth);
-    const QSize plain = reference.sizeHint();
-
-    const QSize hint = label.sizeHint();
-    QCOMPARE(hint.height(), plain.height());
-    if (expectedWidth == -1)
-        QCOMPARE(hint, plain);
-    else if (expectedWidth == -2)
-        QCOMPARE(hint.width(), bounding + 2 * margin + 1);
-    else
-        QCOMPARE(hint.width(), expectedWidth == 0 ? maxWidth : expectedWidth);
-}
-
-void tst_KaLabel::richTextWidth() {
-    const QString html = QStringLiteral("<b>bold</b> and <i>italic</i>");
-    KaLabel label(html);
-    label.setTextFormat(Qt::RichText);
-    QTextDocument document;
-    document.setDefaultFont(label.font());
-    document.setHtml(html);
-    QCOMPARE(label.sizeHint().width(), int(document.size().width()) + 1);
-    // Not the width of the markup itself.
-    QVERIFY(label.sizeHint().width() < QFontMetrics(label.font()).boundingRect(html).width());
-}
-
-void tst_KaLabel::autoResizeToggle() {
-    KaLabel label(QStringLiteral("abc"));
-    label.setMargin(4);
-    const QSize automatic = label.sizeHint();
-    label.setAutoResize(false);
-    QVERIFY(!label.autoResize());
-    QLabel reference(QStringLiteral("abc"));
-    reference.setFont(label.font());
-    reference.setMargin(4);
-    QCOMPARE(label.sizeHint(), reference.sizeHint());
-    QVERIFY(label.sizeHint() != automatic);
-    label.setAutoResize(true);
-    QCOMPARE(label.sizeHint(), automatic);
-}
-
-void tst_KaLabel::copy_data() {
-    QTest::addColumn<bool>("select");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<bool>("copied");
-    QTest::addColumn<bool>("passedOn");
-
-    QTest::newRow("Ctrl+C with selection")
-        << true << int(Qt::Key_C) << Qt::KeyboardModifiers(Qt::ControlModifier) << true << false;
-    QTest::newRow("Ctrl+Shift+C") << true << int(Qt::Key_C)
-                                  << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::ShiftModifier) << false
-                                  << true;
-    QTest::newRow("Ctrl+Alt+C") << true << int(Qt::Key_C)
-                                << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::AltModifier) << false
-                                << true;
-    QTest::newRow("C alone") << true << int(Qt::Key_C) << Qt::KeyboardModifiers() << false << true;
-    QTest::newRow("Ctrl+X") << true << int(Qt::Key_X) << Qt::KeyboardModifiers(Qt::ControlModifier) << false
-                            << true;
-    QTest::newRow("Ctrl+C without selection")
-        << false << int(Qt::Key_C) << Qt::KeyboardModifiers(Qt::ControlModifier) << false << true;
-}
-
-void tst_KaLabel::copy() {
-    QFETCH(bool, select);
-    QFETCH(int, key);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    QFETCH(bool, copied);
-    QFETCH(bool, passedOn);
-
-    QClipboard* clipboard = QGuiApplication::clipboard();
-    clipboard->setText(QString::fromLatin1(kSentinel), QClipboard::Clipboard);
-    QCOMPARE(clipboard->text(QClipboard::Clipboard), QString::fromLatin1(kSentinel));
-
-    QWidget parent;
-    KeyPressCounter counter;
-    counter.key = key;
-    parent.installEventFilter(&counter);
-    KaLabel label(QStringLiteral("copy me please"), &parent);
-    // Without a selection the label is not selectable at all, so QLabel
-    // itself ignores the key and the parent shows whether it was passed on.
-    if (select) {
-        label.setTextInteractionFlags(Qt::TextSelectableByMouse);
-        label.setSelection(5, 2);
-    }
-    QCOMPARE(label.hasSelectedText(), select);
-
-    QTest::keyClick(&label, Qt::Key(key), modifiers);
-    QCOMPARE(clipboard->text(QClipboard::Clipboard),
-             copied ? QStringLiteral("me") : QString::fromLatin1(kSentinel));
-    // Keys the label does not take travel on to the parent.
-    QCOMPARE(counter.presses > 0, passedOn);
-}
 
 QTEST_MAIN(tst_KaLabel)
 #include "tst_kalabel.moc"

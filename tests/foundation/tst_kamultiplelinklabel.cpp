@@ -1,6 +1,5 @@
-#include "customfocusoverlay.h"
+#include "focusringtest.h"
 #include "kacolortokenutils.h"
-#include "kafocusstyle.h"
 #include "kamultiplelinklabel.h"
 
 #include <accessibilityrecorder.h>
@@ -172,10 +171,7 @@ private Q_SLOTS:
     }
 
     void focusRing() {
-        QApplication::setStyle(
-            new KaFocusStyle(KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline),
-                             KaColorTokenUtils::tokenToStdString(Karvox::textinput_background), false,
-                             QStyleFactory::create(QStringLiteral("Fusion"))));
+        FocusRingTest::installStyle();
         qApp->setProperty("isKeyboardFocus", true);
         {
             Form form;
@@ -187,9 +183,8 @@ private Q_SLOTS:
             const QRect link = form.label->linkRect(1);
             const QRect expected(form.label->mapTo(&form.window, link.topLeft()) - QPoint(2, 2),
                                  link.size() + QSize(4, 4));
-            CustomFocusOverlay* overlay = nullptr;
-            QTRY_VERIFY((overlay = form.window.findChild<CustomFocusOverlay*>()) && overlay->isVisible() &&
-                        overlay->geometry() == expected);
+            QTRY_VERIFY(FocusRingTest::visibleRing(form.window) &&
+                        FocusRingTest::visibleRing(form.window)->geometry() == expected);
         }
         qApp->setProperty("isKeyboardFocus", QVariant());
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));

@@ -1,13 +1,10 @@
 #include "katextedit.h"
 
 #include <buttontestutils.h>
-#include <customfocusoverlay.h>
-#include <kacolortokenutils.h>
-#include <kafocusstyle.h>
+#include <focusringtest.h>
 
 #include <QAccessible>
 #include <QScrollBar>
-#include <QStyleFactory>
 #include <QTest>
 
 using namespace ButtonTest;
@@ -32,21 +29,15 @@ private Q_SLOTS:
     }
 
     void focusRingAroundFrame() {
-        QApplication::setStyle(
-            new KaFocusStyle(KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline),
-                             KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline), false,
-                             QStyleFactory::create(QStringLiteral("Fusion"))));
+        FocusRingTest::installStyle("global-focus-outline");
         QWidget window;
         auto* edit = new KaTextEdit(&window);
         edit->setGeometry(20, 20, 200, 100);
         window.resize(260, 160);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QVERIFY(activated(window));
         edit->setFocus(Qt::TabFocusReason);
-        QTRY_VERIFY(window.findChild<CustomFocusOverlay*>() &&
-                    window.findChild<CustomFocusOverlay*>()->isVisible());
-        QCOMPARE(window.findChild<CustomFocusOverlay*>()->geometry(), QRect(17, 17, 206, 106));
+        QTRY_VERIFY(FocusRingTest::visibleRing(window));
+        QCOMPARE(FocusRingTest::visibleRing(window)->geometry(), QRect(17, 17, 206, 106));
         QAccessibleInterface* a11y = QAccessible::queryAccessibleInterface(edit);
         QCOMPARE(a11y->role(), QAccessible::EditableText);
         QVERIFY(a11y->state().focused);

@@ -3,9 +3,7 @@
 
 #include <accessibilityrecorder.h>
 #include <buttontestutils.h>
-#include <customfocusoverlay.h>
-#include <kacolortokenutils.h>
-#include <kafocusstyle.h>
+#include <focusringtest.h>
 #include <kaiconbutton.h>
 #include <kalabel.h>
 
@@ -14,7 +12,6 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QSignalSpy>
-#include <QStyleFactory>
 #include <QTest>
 
 using namespace ButtonTest;
@@ -211,23 +208,16 @@ private Q_SLOTS:
     }
 
     void focusRing() {
-        auto* style = new KaFocusStyle(KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline),
-                                       KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline),
-                                       false, QStyleFactory::create(QStringLiteral("Fusion")));
-        QApplication::setStyle(style);
+        FocusRingTest::installStyle("global-focus-outline");
         QWidget window;
         auto* field = new KaTextField(&window);
         field->setGeometry(20, 20, 200, 32);
         window.resize(260, 80);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QVERIFY(activated(window));
         // Focus from a click shows the ring too: typing goes there either way.
         QTest::mouseClick(field->lineEdit(), Qt::LeftButton);
-        QTRY_VERIFY(window.findChild<CustomFocusOverlay*>() &&
-                    window.findChild<CustomFocusOverlay*>()->isVisible());
-        const CustomFocusOverlay* ring = window.findChild<CustomFocusOverlay*>();
-        QCOMPARE(ring->geometry(), QRect(17, 17, 206, 38));
+        QTRY_VERIFY(FocusRingTest::visibleRing(window));
+        QCOMPARE(FocusRingTest::visibleRing(window)->geometry(), QRect(17, 17, 206, 38));
     }
 
     void badInput_data() {

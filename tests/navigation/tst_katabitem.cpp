@@ -69,7 +69,6 @@ private Q_SLOTS:
         KaTabItem tab(QStringLiteral("Chat"), kIcon);
         int previous = 0;
         for (KaButtonEnum::Size size : {KaButtonEnum::Small, KaButtonEnum::Normal, KaButtonEnum::Large}) {
-            QSignalSpy spy(&tab, &KaTabItem::sizeChanged);
             tab.setSize(size);
             QVERIFY(tab.minimumHeight() == tab.maximumHeight());
             QVERIFY(tab.maximumHeight() > previous);

@@ -1,13 +1,11 @@
 #include "buttontestutils.h"
-#include "customfocusoverlay.h"
-#include "kafocusstyle.h"
+#include "focusringtest.h"
 #include "katabitem.h"
 #include "katabview.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QSignalSpy>
-#include <QStyleFactory>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -279,8 +277,7 @@ private Q_SLOTS:
 
     // Arrow keys move the keyboard focus ring along with the selection.
     void focusRing() {
-        QApplication::setStyle(new KaFocusStyle("global-focus-outline", "textinput-background", false,
-                                                QStyleFactory::create(QStringLiteral("Fusion"))));
+        FocusRingTest::installStyle();
         qApp->setProperty("isKeyboardFocus", true);
         Shown shown(3);
         QVERIFY(shown.show());
@@ -289,13 +286,8 @@ private Q_SLOTS:
         KaTabItem* tab = shown.view->tabAt(1);
         QTRY_VERIFY(tab->hasFocus());
         const QRect target(tab->mapTo(&shown.window, QPoint()), tab->QWidget::size());
-        QTRY_VERIFY([&] {
-            const auto overlays = shown.window.findChildren<CustomFocusOverlay*>();
-            for (const CustomFocusOverlay* overlay : overlays)
-                if (overlay->isVisible() && overlay->geometry().contains(target))
-                    return true;
-            return false;
-        }());
+        QTRY_VERIFY(FocusRingTest::visibleRing(shown.window) &&
+                    FocusRingTest::visibleRing(shown.window)->geometry().contains(target));
     }
 };
 

@@ -11,110 +11,102 @@
 class tst_KaControlHandle : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void empty();
-    void widget();
-    void button();
-    void point();
-    void quickItem();
-    void anchorDeleted_data();
-    void anchorDeleted();
-};
-
-void tst_KaControlHandle::empty() {
-    const KaControlHandle handle;
-    QCOMPARE(handle.kind(), KaControlHandle::Empty);
-    QVERIFY(!handle.isValid());
-    QVERIFY(handle.globalRect().isNull());
-    QCOMPARE(handle.screen(), nullptr);
-}
-
-void tst_KaControlHandle::widget() {
-    QWidget window;
-    window.setGeometry(120, 80, 300, 200);
-    QWidget child(&window);
-    child.setGeometry(10, 20, 40, 30);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-
-    const KaControlHandle handle(&child);
-    QCOMPARE(handle.kind(), KaControlHandle::Widget);
-    QVERIFY(handle.isValid());
-    QCOMPARE(handle.globalRect(), QRect(child.mapToGlobal(QPoint(0, 0)), QSize(40, 30)));
-    QCOMPARE(handle.globalRect().topLeft(), window.geometry().topLeft() + QPoint(10, 20));
-    QCOMPARE(handle.screen(), QGuiApplication::primaryScreen());
-    QCOMPARE(handle.widget(), &child);
-    QCOMPARE(handle.button(), nullptr);
-    QCOMPARE(handle.quickItem(), nullptr);
-}
-
-void tst_KaControlHandle::button() {
-    QPushButton button(QStringLiteral("b"));
-    const KaControlHandle handle(&button);
-    QCOMPARE(handle.kind(), KaControlHandle::Button);
-    QCOMPARE(handle.button(), &button);
-    QCOMPARE(handle.widget(), &button);
-}
-
-void tst_KaControlHandle::point() {
-    const KaControlHandle handle(QPoint(300, 200));
-    QCOMPARE(handle.kind(), KaControlHandle::Point);
-    QVERIFY(handle.isValid());
-    QCOMPARE(handle.globalRect(), QRect(300, 200, 1, 1));
-    QCOMPARE(handle.globalRect().center(), QPoint(300, 200));
-    QCOMPARE(handle.screen(), QGuiApplication::primaryScreen());
-    // Off every screen: still a screen to keep the popup on.
-    QCOMPARE(KaControlHandle(QPoint(-5000, -5000)).screen(), QGuiApplication::primaryScreen());
-}
-
-void tst_KaControlHandle::quickItem() {
-    QQuickWindow window;
-    window.setGeometry(100, 50, 300, 200);
-    QQuickItem item(window.contentItem());
-    item.setPosition(QPointF(10, 20));
-    item.setSize(QSizeF(60, 25));
-
-    const KaControlHandle handle(&item);
-    QCOMPARE(handle.kind(), KaControlHandle::QuickItem);
-    QCOMPARE(handle.quickItem(), &item);
-    QCOMPARE(handle.widget(), nullptr);
-    QCOMPARE(handle.globalRect(), QRect(110, 70, 60, 25));
-    QVERIFY(handle.screen());
-}
-
-void tst_KaControlHandle::anchorDeleted_data() {
-    QTest::addColumn<int>("kind");
-    QTest::newRow("widget") << int(KaControlHandle::Widget);
-    QTest::newRow("button") << int(KaControlHandle::Button);
-    QTest::newRow("quick item") << int(KaControlHandle::QuickItem);
-}
-
-void tst_KaControlHandle::anchorDeleted() {
-    QFETCH(int, kind);
-    KaControlHandle handle;
-    if (kind == KaControlHandle::Widget) {
-        auto* widget = new QWidget;
-        handle = KaControlHandle(widget);
-        delete widget;
-    } else if (kind == KaControlHandle::Button) {
-        auto* button = new QPushButton;
-        handle = KaControlHandle(button);
-        delete button;
-    } else {
-        auto* item = new QQuickItem;
-        handle = KaControlHandle(item);
-        delete item;
+    void empty() {
+        const KaControlHandle handle;
+        QCOMPARE(handle.kind(), KaControlHandle::Empty);
+        QVERIFY(!handle.isValid());
+        QVERIFY(handle.globalRect().isNull());
+        QCOMPARE(handle.screen(), nullptr);
     }
-    QCOMPARE(int(handle.kind()), kind);
-    QVERIFY(!handle.isValid());
-    QVERIFY(handle.globalRect().isNull());
-    QCOMPARE(handle.screen(), nullptr);
-    QCOMPARE(handle.widget(), nullptr);
-    QCOMPARE(handle.button(), nullptr);
-    QCOMPARE(handle.quickItem(), nullptr);
-    // A copy taken after the deletion knows too.
-    const KaControlHandle copy = handle;
-    QVERIFY(!copy.isValid());
-}
+
+    void widget() {
+        QWidget window;
+        window.setGeometry(120, 80, 300, 200);
+        QWidget child(&window);
+        child.setGeometry(10, 20, 40, 30);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        const KaControlHandle handle(&child);
+        QCOMPARE(handle.kind(), KaControlHandle::Widget);
+        QVERIFY(handle.isValid());
+        QCOMPARE(handle.globalRect(), QRect(child.mapToGlobal(QPoint(0, 0)), QSize(40, 30)));
+        QCOMPARE(handle.globalRect().topLeft(), window.geometry().topLeft() + QPoint(10, 20));
+        QCOMPARE(handle.screen(), QGuiApplication::primaryScreen());
+        QCOMPARE(handle.widget(), &child);
+        QCOMPARE(handle.button(), nullptr);
+        QCOMPARE(handle.quickItem(), nullptr);
+    }
+
+    void button() {
+        QPushButton button(QStringLiteral("b"));
+        const KaControlHandle handle(&button);
+        QCOMPARE(handle.kind(), KaControlHandle::Button);
+        QCOMPARE(handle.button(), &button);
+        QCOMPARE(handle.widget(), &button);
+    }
+
+    void point() {
+        const KaControlHandle handle(QPoint(300, 200));
+        QCOMPARE(handle.kind(), KaControlHandle::Point);
+        QVERIFY(handle.isValid());
+        QCOMPARE(handle.globalRect(), QRect(300, 200, 1, 1));
+        QCOMPARE(handle.globalRect().center(), QPoint(300, 200));
+        QCOMPARE(handle.screen(), QGuiApplication::primaryScreen());
+        // Off every screen: still a screen to keep the popup on.
+        QCOMPARE(KaControlHandle(QPoint(-5000, -5000)).screen(), QGuiApplication::primaryScreen());
+    }
+
+    void quickItem() {
+        QQuickWindow window;
+        window.setGeometry(100, 50, 300, 200);
+        QQuickItem item(window.contentItem());
+        item.setPosition(QPointF(10, 20));
+        item.setSize(QSizeF(60, 25));
+
+        const KaControlHandle handle(&item);
+        QCOMPARE(handle.kind(), KaControlHandle::QuickItem);
+        QCOMPARE(handle.quickItem(), &item);
+        QCOMPARE(handle.widget(), nullptr);
+        QCOMPARE(handle.globalRect(), QRect(110, 70, 60, 25));
+        QVERIFY(handle.screen());
+    }
+
+    void anchorDeleted_data() {
+        QTest::addColumn<int>("kind");
+        QTest::newRow("widget") << int(KaControlHandle::Widget);
+        QTest::newRow("button") << int(KaControlHandle::Button);
+        QTest::newRow("quick item") << int(KaControlHandle::QuickItem);
+    }
+
+    void anchorDeleted() {
+        QFETCH(int, kind);
+        KaControlHandle handle;
+        if (kind == KaControlHandle::Widget) {
+            auto* widget = new QWidget;
+            handle = KaControlHandle(widget);
+            delete widget;
+        } else if (kind == KaControlHandle::Button) {
+            auto* button = new QPushButton;
+            handle = KaControlHandle(button);
+            delete button;
+        } else {
+            auto* item = new QQuickItem;
+            handle = KaControlHandle(item);
+            delete item;
+        }
+        QCOMPARE(int(handle.kind()), kind);
+        QVERIFY(!handle.isValid());
+        QVERIFY(handle.globalRect().isNull());
+        QCOMPARE(handle.screen(), nullptr);
+        QCOMPARE(handle.widget(), nullptr);
+        QCOMPARE(handle.button(), nullptr);
+        QCOMPARE(handle.quickItem(), nullptr);
+        // A copy taken after the deletion knows too.
+        const KaControlHandle copy = handle;
+        QVERIFY(!copy.isValid());
+    }
+};
 
 QTEST_MAIN(tst_KaControlHandle)
 #include "tst_kacontrolhandle.moc"

@@ -1,14 +1,11 @@
 #include "kacheckbox.h"
 
 #include <buttontestutils.h>
-#include <customfocusoverlay.h>
-#include <kacolortokenutils.h>
-#include <kafocusstyle.h>
+#include <focusringtest.h>
 
 #include <QAccessible>
 #include <QApplication>
 #include <QSignalSpy>
-#include <QStyleFactory>
 #include <QTest>
 
 using namespace ButtonTest;
@@ -64,22 +61,16 @@ private Q_SLOTS:
     }
 
     void focusRingRoundTheBox() {
-        QApplication::setStyle(
-            new KaFocusStyle(KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline),
-                             KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline), false,
-                             QStyleFactory::create(QStringLiteral("Fusion"))));
+        FocusRingTest::installStyle("global-focus-outline");
         QWidget window;
         auto* box = new KaCheckBox(QStringLiteral("Reactions"), &window);
         box->setGeometry(20, 20, 120, 20);
         window.resize(200, 80);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QVERIFY(activated(window));
         box->setFocus(Qt::TabFocusReason);
-        QTRY_VERIFY(window.findChild<CustomFocusOverlay*>() &&
-                    window.findChild<CustomFocusOverlay*>()->isVisible());
+        QTRY_VERIFY(FocusRingTest::visibleRing(window));
         // The 16-pixel box at (0, 2) in the check box, plus a margin of 3.
-        QCOMPARE(window.findChild<CustomFocusOverlay*>()->geometry(), QRect(17, 19, 22, 22));
+        QCOMPARE(FocusRingTest::visibleRing(window)->geometry(), QRect(17, 19, 22, 22));
     }
 };
 

@@ -1,10 +1,8 @@
 #include "buttontestutils.h"
+#include "focusringtest.h"
 
-#include <customfocusoverlay.h>
-#include <kacolortokenutils.h>
 #include <kacombobox.h>
 #include <kacomboboxbase.h>
-#include <kafocusstyle.h>
 #include <karvoxtoken.h>
 
 #include <QAbstractItemView>
@@ -15,7 +13,6 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QStandardItemModel>
-#include <QStyleFactory>
 #include <QTemporaryFile>
 #include <QTest>
 #include <QTimer>
@@ -55,9 +52,8 @@ class tst_KaComboBoxBase : public QObject {
         for (int i = 0; i < rows; ++i)
             m_combo->addItem(QStringLiteral("Row %1").arg(i));
         m_combo->setGeometry(10, 10, 180, 28);
-        QVERIFY(ButtonTest::shown(*m_window, QRect(at, QSize(200, 48))));
-        QApplication::setActiveWindow(m_window);
-        QVERIFY(QTest::qWaitForWindowActive(m_window));
+        m_window->setGeometry(QRect(at, QSize(200, 48)));
+        QVERIFY(ButtonTest::activated(*m_window));
     }
 
 private Q_SLOTS:
@@ -379,10 +375,7 @@ private Q_SLOTS:
     }
 
     void focusRing() {
-        auto* style = new KaFocusStyle(KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline),
-                                       KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline),
-                                       false, QStyleFactory::create(QStringLiteral("Fusion")));
-        QApplication::setStyle(style);
+        FocusRingTest::installStyle("global-focus-outline");
         qApp->setProperty("isKeyboardFocus", true);
         makeWindow();
         auto* first = new QLineEdit(m_window);
@@ -392,10 +385,9 @@ private Q_SLOTS:
         QTRY_VERIFY(first->hasFocus());
         QTest::keyClick(first, Qt::Key_Backtab);
         QTRY_VERIFY(m_combo->hasFocus());
-        QTRY_VERIFY(m_window->findChild<CustomFocusOverlay*>() &&
-                    m_window->findChild<CustomFocusOverlay*>()->isVisible());
-        const CustomFocusOverlay* ring = m_window->findChild<CustomFocusOverlay*>();
-        QCOMPARE(ring->geometry(), m_combo->geometry().adjusted(-5, -5, 5, 5));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
+        QCOMPARE(FocusRingTest::visibleRing(*m_window)->geometry(),
+                 m_combo->geometry().adjusted(-5, -5, 5, 5));
     }
 };
 
