@@ -11,9 +11,12 @@ namespace {
 const QString kCancelIcon = QStringLiteral("qrc:/Resources/cancel-bold.svg");
 constexpr int kHeight = 24;
 constexpr int kFontToken = 5;
-// Between the text and the cross, and between the cross and the edge.
+// Between the text and the cross, and between a leading icon and the text.
 constexpr int kAnchorSpacing = 6;
-constexpr int kAnchorPadding = 4;
+constexpr int kIconSpacing = 4;
+// Room at either end of the pill; the cross's offset eats into it on the
+// trailing side, so it sits centred in the round end.
+constexpr int kEndPadding = 8;
 
 QString name(Karvox::Token token) {
     return KaColorTokenUtils::tokenToString(token);
@@ -41,8 +44,9 @@ KaChips::KaChips(QWidget* parent, const QVariant& value)
     setAnchorSvgOn(kCancelIcon);
     setAnchorSvgOffset(QPoint(4, 1));
     setAnchorIconSpacing(kAnchorSpacing);
-    setAnchorPadding(kAnchorPadding);
-    setTextLeftPadding(2 * kAnchorPadding);
+    setSvgIconSpacing(kIconSpacing);
+    setAnchorPadding(kEndPadding);
+    setTextLeftPadding(kEndPadding);
 
     setAccessibleDescription(tr("Press Delete to remove"));
     connect(this, &QAbstractButton::clicked, this, &KaChips::dismiss);
