@@ -21,6 +21,7 @@
 #include <QAccessible>
 #include <QActionEvent>
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -335,7 +336,14 @@ QWidgetAction* KaMenu::addDiscoverabilityBanner(const KaDiscoverabilityBannerDat
     banner->setFixedWidth(std::max(1, record.width));
     banner->setBannerText(record.text);
     action->setDiscoverabilityBanner(true);
-    action->setDefaultWidget(banner);
+    // The banner keeps its own width on the entries' leading side, in both
+    // layout directions.
+    auto* holder = new QWidget;
+    auto* layout = new QHBoxLayout(holder);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(banner);
+    layout->addStretch(1);
+    action->setDefaultWidget(holder);
     KaMenuBase::addAction(action);
     QAction* separator = addGroupSeparator();
     QPointer<QAction> guardedSeparator(separator);
