@@ -923,9 +923,15 @@ void KaMenu::hideEntryPopover(QWidget* entry) {
 
 // ---- show / hide
 
-void KaMenu::showEvent(QShowEvent* event) {
-    if (m_accessibleUpdatePending)
+void KaMenu::setVisible(bool visible) {
+    // Before the menu is visible: a visible menu re-measures all its
+    // entries on every text change.
+    if (visible && m_accessibleUpdatePending)
         updateAccessibleName();
+    KaMenuBase::setVisible(visible);
+}
+
+void KaMenu::showEvent(QShowEvent* event) {
     KaMenuBase::showEvent(event);
     if (!accessibleName().isEmpty() && QAccessible::isActive())
         KarvexUtils::announce(this, accessibleName());

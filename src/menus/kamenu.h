@@ -109,6 +109,8 @@ public:
     // Re-reports the active entry as hovered.
     void updateCurrentActionState();
 
+    void setVisible(bool visible) override;
+
     // Colours the style paints with, resolved per theme.
     struct Colors {
         QColor hovered;
