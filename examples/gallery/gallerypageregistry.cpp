@@ -8,6 +8,7 @@
 #include "iconspage.h"
 #include "navigationpage.h"
 #include "popupspage.h"
+#include "qmlmenuspage.h"
 #include "selectionpage.h"
 #include "textinputpage.h"
 #include "tokenspage.h"
@@ -37,6 +38,7 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
          &create<AvatarsPage>},
         {QStringLiteral("banners"), QT_TRANSLATE_NOOP("GalleryPages", "Banners and feedback"),
          &create<BannersPage>},
+        {QStringLiteral("qmlmenus"), QT_TRANSLATE_NOOP("GalleryPages", "QML menus"), &create<QmlMenusPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };

@@ -1,0 +1,11 @@
+import QtQuick
+import KarvexWrapper 1.0
+
+// QmlKaMenuData attached to something that is not an item.
+Item {
+    property QtObject holder: QtObject {
+        QmlKaMenuData.menu: [
+            QmlKaMenuItemData { title: "Never shown" }
+        ]
+    }
+}
