@@ -8,9 +8,9 @@
 namespace KaMenuEnum {
 Q_NAMESPACE_EXPORT(KARVEX_EXPORT)
 
-enum Style { Normal = 0, Circular = 1 };
+enum Style : int { Normal = 0, Circular = 1 };
 Q_ENUM_NS(Style)
 
-enum Size { Small = 0, Medium = 1, Large = 2 };
+enum Size : int { Small = 0, Medium = 1, Large = 2 };
 Q_ENUM_NS(Size)
 } // namespace KaMenuEnum
