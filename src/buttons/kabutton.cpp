@@ -1,5 +1,7 @@
 #include "kabutton.h"
 
+#include "kamenu.h"
+
 #include <QAction>
 
 KaButton::KaButton(QWidget* parent, IKaButtonConfig* config)
@@ -85,6 +87,16 @@ void KaButton::popupMenu() {
     // The press that opened the menu must not land on this button again
     // when the menu closes on a click over it.
     m_menu->setNoReplayFor(this);
+    if (auto* menu = qobject_cast<KaMenu*>(m_menu.data())) {
+        // A KaMenu opens against the anchor popupWith() gave it, or below
+        // this button.
+        if (menu->hasAnchor())
+            menu->popup();
+        else
+            menu->popupAt(this, KaPopupEnum::Bottom);
+        setDown(false);
+        return;
+    }
     // Below the button, aligned to its leading edge; QMenu keeps it on screen.
     const QRect global(mapToGlobal(QPoint(0, 0)), QWidget::size());
     const int menuWidth = m_menu->sizeHint().width();

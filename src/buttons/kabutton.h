@@ -44,7 +44,9 @@ public:
     void setWidthSizePolicy(QSizePolicy::Policy policy);
     QSizePolicy::Policy widthSizePolicy() const;
 
-    // Attaches a menu that opens below the button when it is pressed. The
+    // Attaches a menu that opens when the button is pressed: a KaMenu with
+    // KaMenu::popup() against the anchor KaMenu::popupWith() stored (below
+    // the button without one), any other QMenu below the button. The
     // first live menu stays: a second call is ignored until that menu is
     // destroyed. KaMenu is a QMenu; the conversion happens where the caller
     // has the class complete.
