@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QQuickItem>
+#include <QWidgetAction>
 
 namespace {
 KaMenuItemData itemRecord(const QmlKaMenuItemData& item) {
@@ -74,18 +75,11 @@ void addBanner(KaMenu* menu, QmlKaDiscoverabilityBannerData* banner) {
     data.text = banner->bannerText();
     data.type = banner->bannerType();
     data.width = banner->bannerWidth();
-    menu->addDiscoverabilityBanner(data);
+    QWidgetAction* action = menu->addDiscoverabilityBanner(data);
     // The banner's dismissal belongs to the description too.
-    const auto actions = menu->actions();
-    for (auto it = actions.crbegin(); it != actions.crend(); ++it) {
-        auto* action = qobject_cast<QWidgetAction*>(*it);
-        auto* widget = action ? qobject_cast<KaDiscoverabilityBanner*>(action->defaultWidget()) : nullptr;
-        if (widget) {
-            QObject::connect(widget, &KaDiscoverabilityBanner::dismissed, banner,
-                             &QmlKaDiscoverabilityBannerData::dismissed);
-            break;
-        }
-    }
+    if (auto* widget = qobject_cast<KaDiscoverabilityBanner*>(action ? action->defaultWidget() : nullptr))
+        QObject::connect(widget, &KaDiscoverabilityBanner::dismissed, banner,
+                         &QmlKaDiscoverabilityBannerData::dismissed);
 }
 } // namespace
 

@@ -53,13 +53,15 @@ void tst_KarvexTypes::registersTheModuleInOrder() {
     }
     QQmlEngine engine;
     QString error;
-    auto object = create(engine, "import QtQuick\nimport KarvexWrapper 1.0\n"
-                                 "Item { QmlKaMenuData.menu: [ QmlKaMenuItemData { title: \"a\" },"
-                                 " QmlKaMenuSeparatorData {}, QmlKaDiscoverabilityBannerData {} ]\n"
-                                 " property KaMenuListModel model: KaMenuListModel {} }",
+    auto object = create(engine,
+                         "import QtQuick\nimport KarvexWrapper 1.0\n"
+                         "Item { QmlKaMenuData.menu: [ QmlKaMenuItemData { title: \"a\" },"
+                         " QmlKaMenuSeparatorData {}, QmlKaDiscoverabilityBannerData {} ]\n"
+                         " property KaMenuListModel model: KaMenuListModel {} }",
                          &error);
     QVERIFY2(object, qPrintable(error));
-    auto* data = qobject_cast<QmlKaMenuData*>(qmlAttachedPropertiesObject<QmlKaMenuData>(object.get(), false));
+    auto* data =
+        qobject_cast<QmlKaMenuData*>(qmlAttachedPropertiesObject<QmlKaMenuData>(object.get(), false));
     QVERIFY(data);
     QCOMPARE(data->parent(), object.get());
     QCOMPARE(data->menuObjects().size(), 3);
@@ -135,8 +137,8 @@ void tst_KarvexTypes::outOfRangeEnumsAreRefused() {
     QQuickItem anchor;
     QmlKaMenuData data(&anchor);
     const QVariant before = data.property(property);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("%1 is not a menu|%1 is not a popup")
-                                                              .arg(value)));
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("%1 is not a menu|%1 is not a popup").arg(value)));
     const QMetaProperty p = data.metaObject()->property(data.metaObject()->indexOfProperty(property));
     p.write(&data, QVariant(p.metaType(), &value));
     QCOMPARE(data.property(property), before);

@@ -1,5 +1,6 @@
 #include "kadiscoverabilitybanner.h"
 #include "kamenu.h"
+#include "kamenuaction.h"
 #include "kamenulistmodel.h"
 #include "qmlkamenudata.h"
 #include "qmlkamenuitemdata.h"
@@ -42,16 +43,20 @@ KaMenu* openMenu() {
 }
 
 // What an entry is, in a form the tests can compare: "-" a line, "=" a
-// group line, "banner:<text>", otherwise the description's object name.
+// group line, "#<name>" a header, "banner:<text>", otherwise the object
+// name of the item description.
 QString describe(QAction* action) {
-    if (auto* entry = qobject_cast<QWidgetAction*>(action)) {
+    if (action->isSeparator())
+        return action->property("_ka_menu_group_separator").toBool() ? QStringLiteral("=")
+                                                                     : QStringLiteral("-");
+    auto* entry = qobject_cast<QWidgetAction*>(action);
+    if (entry && !qobject_cast<KaMenuAction*>(action)) {
         if (auto* banner = qobject_cast<KaDiscoverabilityBanner*>(entry->defaultWidget()))
             return QStringLiteral("banner:") + banner->bannerText();
+        return QLatin1Char('#') + entry->defaultWidget()->objectName();
     }
-    if (action->isSeparator() && action->objectName().isEmpty())
-        return QStringLiteral("-");
-    if (action->isSeparator() && action->objectName() == QLatin1String("group"))
-        return QStringLiteral("=");
+    if (auto* banner = qobject_cast<KaDiscoverabilityBanner*>(entry ? entry->defaultWidget() : nullptr))
+        return QStringLiteral("banner:") + banner->bannerText();
     return action->objectName();
 }
 
@@ -116,7 +121,7 @@ void tst_QmlKaMenuData::buildsEntriesFromDescriptions() {
     // text nor line and a banner without text add nothing, strangers are
     // skipped, and the model's rows follow the list.
     QCOMPARE(describe(openMenu()),
-             QStringList({"copy", "more", "header", "-", "group", "=", "banner:Try it", "=", "row", "-"}));
+             QStringList({"copy", "more", "#header", "-", "#group", "=", "banner:Try it", "=", "row", "-"}));
     QMenu* sub = actionNamed(openMenu(), QStringLiteral("more"))->menu();
     QVERIFY(sub);
     QCOMPARE(describe(sub), QStringList({"child"}));
