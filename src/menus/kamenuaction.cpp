@@ -41,6 +41,8 @@ KaMenuItem* KaMenuAction::menuItem() const {
 }
 
 void KaMenuAction::applyData(const KaMenuItemData& record) {
+    if (!defaultWidget())
+        setDefaultWidget(new KaMenuItem);
     if (!record.objectName.isEmpty())
         setObjectName(record.objectName);
     setText(record.title);

@@ -28,7 +28,8 @@ public:
     KaMenuItem* menuItem() const;
 
     // Fills the action and its entry from a record: text, tool tip, object
-    // name, checkable, checked, enabled, alert and first action.
+    // name, checkable, checked, enabled, alert and first action. An action
+    // without a widget gets a new KaMenuItem first.
     void applyData(const KaMenuItemData& record);
 
     void setTitle(const QString& title);

@@ -125,9 +125,10 @@ KaMenuItem::KaMenuItem(QWidget* parent)
     m_title = new KaEmojiLabel(this);
     m_title->setObjectName(partName(Column));
     m_title->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
-    m_title->setAutoResize(false);
+    // As wide as the text asks, up to the entry's maximum width; beyond it
+    // the title is elided.
     m_title->setElideMode(Qt::ElideRight);
-    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_title->setMinimumWidth(1);
     m_inner->addWidget(m_title);
     m_outer->addLayout(m_inner, 1);
 
@@ -596,10 +597,11 @@ KaEmojiLabel* KaMenuItem::ensureSubText() {
     auto* label = new KaEmojiLabel(this);
     label->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     label->setWordWrap(false);
-    label->setAutoResize(false);
     label->setElideMode(Qt::ElideRight);
+    label->setMinimumWidth(1);
     label->setMaximumWidth(kSubTextMaximumWidth);
-    m_inner->addWidget(label);
+    // Aligned, so that its maximum width does not cap the title's.
+    m_inner->addWidget(label, 0, Qt::AlignLeading);
     m_subText = label;
     nameParts();
     refresh();

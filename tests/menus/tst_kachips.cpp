@@ -28,9 +28,18 @@ class tst_KaChips : public QObject {
 private Q_SLOTS:
     void init() { switchTheme("light"); }
 
-    // Only the cross is clickable: a click on the text does nothing.
+    void clickOnlyOnCross_data() {
+        QTest::addColumn<bool>("rightToLeft");
+        QTest::newRow("left-to-right") << false;
+        QTest::newRow("right-to-left") << true;
+    }
+
+    // Only the cross is clickable, at the trailing end whichever way the
+    // text runs: a click on the text does nothing.
     void clickOnlyOnCross() {
+        QFETCH(bool, rightToLeft);
         QWidget window;
+        window.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
         KaChips chip(&window, 42);
         chip.setDisplayText(QStringLiteral("Ada Lovelace"));
         chip.resize(chip.sizeHint());
@@ -44,6 +53,7 @@ private Q_SLOTS:
 
         const QRect cross = chip.anchorIconRect();
         QVERIFY(cross.isValid());
+        QCOMPARE(cross.center().x() < chip.width() / 2, rightToLeft);
         QTest::mouseClick(&chip, Qt::LeftButton, {}, cross.center());
         QCOMPARE(dismissed.count(), 1);
         QVERIFY(chip.isHidden());

@@ -51,9 +51,10 @@ private Q_SLOTS:
         record.checkable = true;
         record.checked = true;
         KaMenuAction action;
-        auto* item = new KaMenuItem;
-        action.setDefaultWidget(item);
         action.applyData(record);
+        KaMenuItem* item = action.menuItem();
+        QVERIFY(item);
+        QCOMPARE(action.defaultWidget(), item);
         QCOMPARE(action.text(), QStringLiteral("Leave"));
         QCOMPARE(action.objectName(), QStringLiteral("leaveSpace"));
         QVERIFY(action.isFirstAction() && action.isChecked());

@@ -63,6 +63,17 @@ private Q_SLOTS:
         QVERIFY(!item.findChild<KaLabel*>(QStringLiteral("subText"))->isVisible());
     }
 
+    // A long title asks for more than the minimum width and gets up to the
+    // maximum; the narrower sub-text does not hold it back.
+    void longTitle() {
+        KaMenuItem item(QStringLiteral("Forward to everyone who was in the meeting yesterday afternoon"));
+        item.setSubText(QStringLiteral("Short"));
+        QVERIFY(item.sizeHint().width() > 264);
+        item.resize(item.maximumWidth(), item.height());
+        item.show();
+        QTRY_VERIFY(item.findChild<KaLabel*>(QStringLiteral("title"))->width() > 264);
+    }
+
     // An entry with only a title creates no other part.
     void plainEntryIsLean() {
         KaMenuItem item(QStringLiteral("Copy"));
