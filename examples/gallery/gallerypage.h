@@ -20,6 +20,14 @@ public:
     // empty when it fits without scrolling.
     QSize overflow() const;
 
+    // Pop-up windows the screenshot run pictures too: how many there are,
+    // a file name part for each, and opening number `index`, which returns
+    // the windows it opened (a menu and any open sub-menu). The run closes
+    // them again.
+    virtual int screenshotPopupCount() const { return 0; }
+    virtual QString screenshotPopupName(int) const { return QString(); }
+    virtual QList<QWidget*> openScreenshotPopup(int) { return {}; }
+
 protected:
     QVBoxLayout* contentLayout() const { return m_contentLayout; }
     // Adds `heading` over `content` as one section, above the closing

@@ -6,6 +6,7 @@
 #include "focuspage.h"
 #include "foundationpage.h"
 #include "iconspage.h"
+#include "menuspage.h"
 #include "navigationpage.h"
 #include "popupspage.h"
 #include "qmlmenuspage.h"
@@ -38,6 +39,7 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
          &create<AvatarsPage>},
         {QStringLiteral("banners"), QT_TRANSLATE_NOOP("GalleryPages", "Banners and feedback"),
          &create<BannersPage>},
+        {QStringLiteral("menus"), QT_TRANSLATE_NOOP("GalleryPages", "Menus"), &create<MenusPage>},
         {QStringLiteral("qmlmenus"), QT_TRANSLATE_NOOP("GalleryPages", "QML menus"), &create<QmlMenusPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},

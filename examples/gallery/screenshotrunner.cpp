@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QImage>
+#include <QPainter>
 #include <QPixmap>
 #include <QTextStream>
 
@@ -67,6 +69,42 @@ bool ScreenshotRunner::capture(const QString& filePath) {
     return true;
 }
 
+bool ScreenshotRunner::capturePopups(const QDir& dir, const QString& page, const QString& suffix) {
+    GalleryPage* current = m_window->currentPage();
+    if (!current)
+        return true;
+    for (int i = 0; i < current->screenshotPopupCount(); ++i) {
+        const QList<QWidget*> windows = current->openScreenshotPopup(i);
+        settle();
+        // The open windows (a menu and its sub-menu) in one picture, placed
+        // as they are on screen.
+        QRect box;
+        for (QWidget* window : windows)
+            box |= window->geometry();
+        if (box.isEmpty())
+            continue;
+        const qreal dpr = m_window->devicePixelRatioF();
+        QImage image((QSizeF(box.size()) * dpr).toSize(), QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(dpr);
+        image.fill(Qt::transparent);
+        {
+            QPainter painter(&image);
+            for (QWidget* window : windows)
+                painter.drawPixmap(window->geometry().topLeft() - box.topLeft(), window->grab());
+        }
+        for (auto it = windows.crbegin(); it != windows.crend(); ++it)
+            (*it)->close();
+        settle();
+        const QString path = dir.filePath(page + QLatin1Char('-') + current->screenshotPopupName(i) + suffix +
+                                          QLatin1String(".png"));
+        if (!image.save(path, "PNG")) {
+            errors() << "karvex-gallery: could not write " << path << Qt::endl;
+            return false;
+        }
+    }
+    return true;
+}
+
 int ScreenshotRunner::run(const QString& directory) {
     QDir dir(directory);
     if (!dir.mkpath(QStringLiteral("."))) {
@@ -95,6 +133,8 @@ int ScreenshotRunner::run(const QString& directory) {
             if (!capture(dir.filePath(page + QLatin1Char('-') + theme + suffix + QLatin1String(".png"))))
                 return -1;
             ++written;
+            if (!capturePopups(dir, page, QLatin1Char('-') + theme + suffix))
+                return -1;
         }
     }
 
@@ -114,7 +154,8 @@ int ScreenshotRunner::run(const QString& directory) {
     for (const QString& page : pages) {
         m_window->showPage(page);
         ok = capture(dir.filePath(page + QLatin1Char('-') + themes.constFirst() + stressSuffix +
-                                  QLatin1String(".png")));
+                                  QLatin1String(".png"))) &&
+             capturePopups(dir, page, QLatin1Char('-') + themes.constFirst() + stressSuffix);
         if (!ok)
             break;
         ++written;

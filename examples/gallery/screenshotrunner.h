@@ -4,6 +4,7 @@
 #include <QStringList>
 
 class GalleryWindow;
+class QDir;
 
 // Writes the gallery's reference screenshots: every page whole (its full
 // scrolled height) in every built-in theme, in the window's current
@@ -24,6 +25,9 @@ public:
 
 private:
     bool capture(const QString& filePath);
+    // The current page's pop-up windows (menus), one picture each, named
+    // "<page>-<popup><suffix>.png".
+    bool capturePopups(const QDir& dir, const QString& page, const QString& suffix);
     // "-rtl", "-pseudo" and "-<percent>" for what differs from the default.
     QString variantSuffix() const;
     static void settle();

@@ -86,9 +86,11 @@ QPoint unclampedShowPoint(const QRect& anchor, KaPopupEnum::Alignment alignment,
     const int alongY = qRound(size.height() * offset / 100.0);
     switch (alignment) {
     case KaPopupEnum::Top:
-        return QPoint(anchor.center().x() - alongX, anchor.top() - AnchorGap - (size.height() - ShadowMargin));
+        return QPoint(anchor.center().x() - alongX,
+                      anchor.top() - AnchorGap - (size.height() - ShadowMargin));
     case KaPopupEnum::Left:
-        return QPoint(anchor.left() - AnchorGap - (size.width() - ShadowMargin), anchor.center().y() - alongY);
+        return QPoint(anchor.left() - AnchorGap - (size.width() - ShadowMargin),
+                      anchor.center().y() - alongY);
     case KaPopupEnum::Right:
         return QPoint(anchor.right() + 1 + AnchorGap - ShadowMargin, anchor.center().y() - alongY);
     default:
@@ -166,7 +168,8 @@ protected:
         painter.setPen(m_color);
         // Lined up with the entries' titles, which sit 12 px in.
         const QRect area = rect().adjusted(12 + m_left, 0, -12 - m_right, 0);
-        const Qt::Alignment align = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
+        const Qt::Alignment align =
+            QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
         if (m_wrap)
             painter.drawText(area, int(align) | Qt::TextWordWrap, m_text);
         else
@@ -183,7 +186,8 @@ private:
     bool m_wrap = false;
 };
 
-KaMenu::KaMenu(QWidget* parent) : KaMenuBase(parent, false) {
+KaMenu::KaMenu(QWidget* parent)
+    : KaMenuBase(parent, false) {
     setObjectName(QStringLiteral("KaMenu"));
     setSeparatorsCollapsible(false);
     connect(this, &QMenu::aboutToHide, this, &KaMenu::resetAlignment);
@@ -246,6 +250,13 @@ void KaMenu::attachSubMenu(KaMenuAction* action, KaMenu* menu) {
     connect(this, &KaMenu::sizeChanged, menu, &KaMenu::setSize);
     action->setMenu(menu);
     action->setActionIconVisible(true);
+    // Without its sub-menu the entry is a plain one again.
+    QPointer<KaMenuAction> guarded(action);
+    connect(menu, &QObject::destroyed, this, [this, guarded] {
+        if (guarded)
+            guarded->setActionIconVisible(false);
+        scheduleAccessibleUpdate();
+    });
 }
 
 KaMenuAction* KaMenu::addMenu(const KaMenuItemData& data, KaMenu* menu) {
@@ -381,7 +392,8 @@ void KaMenu::scheduleAccessibleUpdate() {
     if (m_accessibleUpdatePending)
         return;
     m_accessibleUpdatePending = true;
-    QMetaObject::invokeMethod(this, [this] { updateAccessibleName(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { updateAccessibleName(); }, Qt::QueuedConnection);
 }
 
 void KaMenu::updateAccessibleName() {
@@ -397,8 +409,9 @@ void KaMenu::updateAccessibleName() {
         for (int i = 0; i < section.size(); ++i) {
             const Entry& e = section.at(i);
             const QString position = QString::number(i + 1);
-            e.action->setText(e.action->menu() ? tr("%1, %2 of %3").arg(e.label, position, count)
-                                               : tr("%1, %2, %3 of %4").arg(e.label, tr("Menu Item"), position, count));
+            e.action->setText(e.action->menu()
+                                  ? tr("%1, %2 of %3").arg(e.label, position, count)
+                                  : tr("%1, %2, %3 of %4").arg(e.label, tr("Menu Item"), position, count));
         }
         section.clear();
     };
@@ -421,7 +434,8 @@ void KaMenu::updateAccessibleName() {
             title = action->text();
             action->setProperty(kTitleProperty, title);
         }
-        const QString label = header.isEmpty() ? title.toString() : header + QStringLiteral(", ") + title.toString();
+        const QString label =
+            header.isEmpty() ? title.toString() : header + QStringLiteral(", ") + title.toString();
         section.append({action, label});
     }
     flush();
@@ -496,8 +510,8 @@ void KaMenu::updateMenuPos() {
     }
 
     KaPopupEnum::Alignment shown = m_alignment;
-    const QPoint point =
-        KaPopupUtils::calculateShowPoint(m_handle, m_alignment, hint.width(), hint.height(), int(m_popOffset), &shown);
+    const QPoint point = KaPopupUtils::calculateShowPoint(m_handle, m_alignment, hint.width(), hint.height(),
+                                                          int(m_popOffset), &shown);
     if (shown != m_alignment)
         applyAlignment(shown);
     KaMenuBase::popupAt(point);
@@ -672,7 +686,8 @@ void KaMenu::refresh() {
     m_colors.hovered = background.hovered();
     m_colors.disabled = background.disabled();
     m_colors.separator =
-        BzThemeUtils::getColorSet(m_separatorSecondary ? "separator-secondary" : "separator-primary", type).normal();
+        BzThemeUtils::getColorSet(m_separatorSecondary ? "separator-secondary" : "separator-primary", type)
+            .normal();
     m_colors.header = BzThemeUtils::getColorSet("listitem-textsecondary", type).normal();
     m_colors.text = BzThemeUtils::getColorSet("listitem-textprimary", type).normal();
     m_colors.focusOuter = BzThemeUtils::getColorSet("global-focus-outline", type).normal();
@@ -703,8 +718,10 @@ KaPopover* KaMenu::entryPopover() const {
 
 void KaMenu::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    const QPoint anchor = m_showArrow && m_handle.isValid() ? KaPopupUtils::anchorPoint(m_handle, m_alignment) : QPoint();
-    KaPopupUtils::drawPopup(this, &painter, m_alignment, anchor, int(m_popOffset), m_cover, m_showArrow, size());
+    const QPoint anchor =
+        m_showArrow && m_handle.isValid() ? KaPopupUtils::anchorPoint(m_handle, m_alignment) : QPoint();
+    KaPopupUtils::drawPopup(this, &painter, m_alignment, anchor, int(m_popOffset), m_cover, m_showArrow,
+                            size());
 
     const QRect body = KaPopupUtils::bodyRect(size(), m_alignment, m_showArrow).adjusted(1, 1, -1, -1);
     QStyleOptionMenuItem option;
@@ -727,7 +744,8 @@ void KaMenu::paintEvent(QPaintEvent* event) {
             painter.restore();
             continue;
         }
-        if (!geometry.intersects(event->rect()) || isBanner(action) || action->property(kHeaderProperty).isValid())
+        if (!geometry.intersects(event->rect()) || isBanner(action) ||
+            action->property(kHeaderProperty).isValid())
             continue;
         auto* widgetAction = qobject_cast<QWidgetAction*>(action);
         QWidget* widget = widgetAction ? widgetAction->defaultWidget() : nullptr;
@@ -852,8 +870,8 @@ void KaMenu::showEntryPopover(QWidget* entry) {
     const KaPopupEnum::Alignment side =
         direction == KaWidgetData::ArrowLeft ? KaPopupEnum::Right : KaPopupEnum::Left;
     const QSize estimate(KaWidgetData::maxPopoverWidth, entry->height());
-    const QPoint point = KaPopupUtils::calculateShowPoint(KaControlHandle(static_cast<QWidget*>(anchor)), side,
-                                                          estimate.width(), estimate.height());
+    const QPoint point = KaPopupUtils::calculateShowPoint(KaControlHandle(static_cast<QWidget*>(anchor)),
+                                                          side, estimate.width(), estimate.height());
     const QScreen* screen = entry->screen();
     if (direction == KaWidgetData::ArrowRight && screen) {
         const QRect raw(unclampedShowPoint(QRect(anchor->mapToGlobal(QPoint(0, 0)), anchor->size()), side,
