@@ -4,6 +4,7 @@
 #include "kadiscoverabilitybanner.h"
 #include "kadiscoverabilitybannerdata.h"
 #include "kamenu.h"
+#include "kamenuaction.h"
 #include "kamenuitemdata.h"
 #include "kamenulistmodel.h"
 #include "qmlkadescriptionutils_p.h"

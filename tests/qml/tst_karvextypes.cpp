@@ -6,9 +6,11 @@
 #include "qmlkamenuseparatordata.h"
 #include "testhelpers.h"
 
+#include <QFile>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QRegularExpression>
 #include <QTest>
 
 class tst_KarvexTypes : public QObject {
@@ -22,6 +24,8 @@ private Q_SLOTS:
     void settersNotifyOnlyOnChange();
     void outOfRangeEnumsAreRefused_data();
     void outOfRangeEnumsAreRefused();
+    void typeInformationMatchesTheTypes_data();
+    void typeInformationMatchesTheTypes();
 };
 
 namespace {
@@ -117,6 +121,9 @@ void tst_KarvexTypes::settersNotifyOnlyOnChange() {
         else if (p.metaType() == QMetaType::fromType<KaMenuListModel*>())
             values.insert(QString::fromLatin1(p.name()), QVariant::fromValue(&model));
     }
+    // Banners take only the banner kinds.
+    if (type == QLatin1String("QmlKaDiscoverabilityBannerData"))
+        values.insert(QStringLiteral("bannerType"), QVariant::fromValue(KaDiscoverabilityEnum::TipHelp));
     BzTest::checkNotifiesOnce(*object, *meta, values);
     object.reset();
 }
@@ -136,12 +143,48 @@ void tst_KarvexTypes::outOfRangeEnumsAreRefused() {
     QFETCH(int, value);
     QQuickItem anchor;
     QmlKaMenuData data(&anchor);
-    const QVariant before = data.property(property);
+    const QVariant before = data.property(property.constData());
     QTest::ignoreMessage(QtWarningMsg,
                          QRegularExpression(QStringLiteral("%1 is not a menu|%1 is not a popup").arg(value)));
-    const QMetaProperty p = data.metaObject()->property(data.metaObject()->indexOfProperty(property));
+    const QMetaProperty p =
+        data.metaObject()->property(data.metaObject()->indexOfProperty(property.constData()));
     p.write(&data, QVariant(p.metaType(), &value));
-    QCOMPARE(data.property(property), before);
+    QCOMPARE(data.property(property.constData()), before);
+}
+
+void tst_KarvexTypes::typeInformationMatchesTheTypes_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<const QMetaObject*>("meta");
+    QTest::newRow("QmlKaMenuData") << "QmlKaMenuData" << &QmlKaMenuData::staticMetaObject;
+    QTest::newRow("QmlKaMenuItemData") << "QmlKaMenuItemData" << &QmlKaMenuItemData::staticMetaObject;
+    QTest::newRow("QmlKaMenuSeparatorData")
+        << "QmlKaMenuSeparatorData" << &QmlKaMenuSeparatorData::staticMetaObject;
+    QTest::newRow("QmlKaDiscoverabilityBannerData")
+        << "QmlKaDiscoverabilityBannerData" << &QmlKaDiscoverabilityBannerData::staticMetaObject;
+    QTest::newRow("KaMenuListModel") << "KaMenuListModel" << &KaMenuListModel::staticMetaObject;
+}
+
+// The .qmltypes file is written by hand; tools trust it, so it must name
+// every property the type declares, and export the type.
+void tst_KarvexTypes::typeInformationMatchesTheTypes() {
+    QFETCH(QString, name);
+    QFETCH(const QMetaObject*, meta);
+    QFile file(QStringLiteral(KARVEX_QMLTYPES_FILE));
+    QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
+    const QString text = QString::fromUtf8(file.readAll());
+    const qsizetype start = text.indexOf(QStringLiteral("name: \"%1\"").arg(name));
+    QVERIFY2(start >= 0, qPrintable(name));
+    qsizetype end = text.indexOf(QStringLiteral("\n    Component {"), start);
+    const QString component = text.mid(start, end < 0 ? -1 : end - start);
+    QVERIFY(component.contains(QStringLiteral("\"KarvexWrapper/%1 1.0\"").arg(name)));
+    QStringList listed;
+    const QRegularExpression property(QStringLiteral("Property \\{ name: \"(\\w+)\""));
+    for (auto it = property.globalMatch(component); it.hasNext();)
+        listed.append(it.next().captured(1));
+    QStringList declared;
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
+        declared.append(QString::fromLatin1(meta->property(i).name()));
+    QCOMPARE(listed, declared);
 }
 
 QTEST_MAIN(tst_KarvexTypes)

@@ -42,7 +42,9 @@ Item {
         anchors.fill: parent
 
         QmlKaMenuData.kaMenuListModel: rows
-        QmlKaMenuData.style: 1
+        QmlKaMenuData.style: KaMenuEnum.Circular
+        // The linter of Qt 6.4 does not follow list bindings on attached objects.
+        // qmllint disable property
         QmlKaMenuData.menu: [
             QmlKaMenuItemData {
                 objectName: "copy"
@@ -74,9 +76,10 @@ Item {
             QmlKaMenuSeparatorData { objectName: "nothing"; showSeperatorLine: false },
             QmlKaMenuSeparatorData { objectName: "group"; text: "Group"; group: true },
             QmlKaDiscoverabilityBannerData { objectName: "emptyBanner"; bannerText: "" },
-            QmlKaDiscoverabilityBannerData { objectName: "banner"; bannerText: "Try it"; bannerType: 5 },
+            QmlKaDiscoverabilityBannerData { objectName: "banner"; bannerText: "Try it"; bannerType: KaDiscoverabilityEnum.TipHelp },
             QtObject { objectName: "stranger" }
         ]
+        // qmllint enable property
     }
     }
 }
