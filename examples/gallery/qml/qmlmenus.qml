@@ -71,8 +71,10 @@ Rectangle {
             onClicked: button.QmlKaMenuData.doPopup()
         }
 
-        QmlKaMenuData.alignment: 4
+        QmlKaMenuData.alignment: KaPopupEnum.Bottom
         QmlKaMenuData.kaMenuListModel: recent
+        // The linter of Qt 6.4 does not follow list bindings on attached objects.
+        // qmllint disable property
         QmlKaMenuData.menu: [
             QmlKaMenuItemData {
                 objectName: "newDocument"
@@ -97,10 +99,11 @@ Rectangle {
             },
             QmlKaDiscoverabilityBannerData {
                 bannerText: "Menus can now be described in QML."
-                bannerType: 4
+                bannerType: KaDiscoverabilityEnum.NewFeature
             },
             QmlKaMenuSeparatorData { objectName: "recentHeader"; text: "Recent" }
         ]
+        // qmllint enable property
     }
 
     Text {
