@@ -5,6 +5,7 @@
 #include <bzfont.h>
 #include <bzthemeutils.h>
 #include <kachips.h>
+#include <kalabelbase.h>
 #include <kacontextmenu.h>
 #include <kacustomizedseparatoritemdata.h>
 #include <kadiscoverabilitybannerdata.h>

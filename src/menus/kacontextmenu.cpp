@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionMenuItem>
 
@@ -51,12 +52,14 @@ void KaContextMenu::keyPressEvent(QKeyEvent* event) {
     // follows it until the mouse takes over.
     if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down || event->key() == Qt::Key_Home ||
         event->key() == Qt::Key_End)
-        setAttribute(Qt::WA_KeyboardFocusChange, true);
+        m_keyboardHighlight = true;
     QMenu::keyPressEvent(event);
 }
 
 void KaContextMenu::mouseMoveEvent(QMouseEvent* event) {
-    setAttribute(Qt::WA_KeyboardFocusChange, false);
+    if (m_keyboardHighlight && event->position().toPoint() != m_lastMousePos)
+        m_keyboardHighlight = false;
+    m_lastMousePos = event->position().toPoint();
     QMenu::mouseMoveEvent(event);
 }
 
@@ -67,7 +70,8 @@ void KaContextMenu::paintEvent(QPaintEvent* event) {
         return;
     QStyleOptionMenuItem option;
     initStyleOption(&option, active);
-    if (!(option.state & QStyle::State_KeyboardFocusChange) && !qApp->property("isKeyboardFocus").toBool())
+    if (!(option.state & QStyle::State_KeyboardFocusChange) && !m_keyboardHighlight &&
+        !qApp->property("isKeyboardFocus").toBool())
         return;
     QPainter painter(this);
     KaFocusStyle::drawFocusOutline(&painter, actionGeometry(active), m_focusOuter, m_focusInner,

@@ -28,6 +28,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    // The highlight was last moved with keys: it carries the focus ring
+    // until the mouse really moves.
+    bool m_keyboardHighlight = false;
+    QPoint m_lastMousePos;
     QColor m_focusOuter;
     QColor m_focusInner;
 };

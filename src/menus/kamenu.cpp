@@ -21,7 +21,9 @@
 #include <QAccessible>
 #include <QActionEvent>
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QQuickItem>
 #include <QScreen>
@@ -209,27 +211,28 @@ KaMenu::~KaMenu() {
 
 // ---- building
 
-KaMenuAction* KaMenu::addEntry(const KaMenuItemData& data) {
+KaMenuAction* KaMenu::addEntry(const KaMenuItemData& record) {
     auto* action = new KaMenuAction(this);
     auto* item = new KaMenuItem();
     item->setStyle(m_style);
     item->setSize(m_size);
-    item->applyData(data);
+    item->applyData(record);
     action->setDefaultWidget(item);
-    action->applyData(data);
-    action->setProperty(kTitleProperty, data.accessibleName.isEmpty() ? data.title : data.accessibleName);
+    action->applyData(record);
+    action->setProperty(kTitleProperty,
+                        record.accessibleName.isEmpty() ? record.title : record.accessibleName);
     KaMenuBase::addAction(action);
-    if (data.firstAction)
+    if (record.firstAction)
         setFirstAction(action);
     return action;
 }
 
-KaMenuAction* KaMenu::addMenuItem(const KaMenuItemData& data) {
-    return addEntry(data);
+KaMenuAction* KaMenu::addMenuItem(const KaMenuItemData& record) {
+    return addEntry(record);
 }
 
-KaMenuAction* KaMenu::addMenuItemWithPopup(const KaMenuItemData& data) {
-    KaMenuAction* action = addEntry(data);
+KaMenuAction* KaMenu::addMenuItemWithPopup(const KaMenuItemData& record) {
+    KaMenuAction* action = addEntry(record);
     if (QWidget* entry = action->defaultWidget()) {
         entry->setObjectName(QLatin1String(kPopupEntryName));
         entry->installEventFilter(this);
@@ -259,20 +262,20 @@ void KaMenu::attachSubMenu(KaMenuAction* action, KaMenu* menu) {
     });
 }
 
-KaMenuAction* KaMenu::addMenu(const KaMenuItemData& data, KaMenu* menu) {
-    KaMenuAction* action = addEntry(data);
+KaMenuAction* KaMenu::addMenu(const KaMenuItemData& record, KaMenu* menu) {
+    KaMenuAction* action = addEntry(record);
     attachSubMenu(action, menu);
     return action;
 }
 
-KaMenuAction* KaMenu::addMenuItemInMenu(const KaMenuItemData& data, KaMenu* menu) {
-    return addMenu(data, menu);
+KaMenuAction* KaMenu::addMenuItemInMenu(const KaMenuItemData& record, KaMenu* menu) {
+    return addMenu(record, menu);
 }
 
 QAction* KaMenu::addMenu(const QString& title, KaMenu* menu) {
-    KaMenuItemData data;
-    data.title = title;
-    return addMenu(data, menu);
+    KaMenuItemData record;
+    record.title = title;
+    return addMenu(record, menu);
 }
 
 QWidgetAction* KaMenu::addMenu(QWidget* widget, KaMenu* menu, bool enabled) {
@@ -310,8 +313,8 @@ QWidgetAction* KaMenu::addCustomMenuItem(QWidget* widget, bool enabled, bool fir
     return action;
 }
 
-KaMenuAction* KaMenu::addContextMenu(const KaMenuItemData& data, KaMenuBase* menu) {
-    KaMenuAction* action = addEntry(data);
+KaMenuAction* KaMenu::addContextMenu(const KaMenuItemData& record, KaMenuBase* menu) {
+    KaMenuAction* action = addEntry(record);
     QWidget* entry = action->defaultWidget();
     if (!menu || !entry) {
         qWarning("KaMenu: null context menu ignored");
@@ -327,13 +330,20 @@ KaMenuAction* KaMenu::addContextMenu(const KaMenuItemData& data, KaMenuBase* men
     return action;
 }
 
-QWidgetAction* KaMenu::addDiscoverabilityBanner(const KaDiscoverabilityBannerData& data) {
+QWidgetAction* KaMenu::addDiscoverabilityBanner(const KaDiscoverabilityBannerData& record) {
     auto* action = new KaMenuAction(this);
-    auto* banner = new KaDiscoverabilityBanner(nullptr, data.type);
-    banner->setFixedWidth(std::max(1, data.width));
-    banner->setBannerText(data.text);
+    auto* banner = new KaDiscoverabilityBanner(nullptr, record.type);
+    banner->setFixedWidth(std::max(1, record.width));
+    banner->setBannerText(record.text);
     action->setDiscoverabilityBanner(true);
-    action->setDefaultWidget(banner);
+    // The banner keeps its own width on the entries' leading side, in both
+    // layout directions.
+    auto* holder = new QWidget;
+    auto* layout = new QHBoxLayout(holder);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(banner);
+    layout->addStretch(1);
+    action->setDefaultWidget(holder);
     KaMenuBase::addAction(action);
     QAction* separator = addGroupSeparator();
     QPointer<QAction> guardedSeparator(separator);
@@ -354,24 +364,24 @@ QAction* KaMenu::addGroupSeparator() {
 }
 
 QWidgetAction* KaMenu::addSeparator(const QString& text) {
-    KaCustomizedSeparatorItemData data;
-    data.text = text;
-    data.itemHeight = kHeaderHeight;
-    return addSeparator(data);
+    KaCustomizedSeparatorItemData record;
+    record.text = text;
+    record.itemHeight = kHeaderHeight;
+    return addSeparator(record);
 }
 
-QWidgetAction* KaMenu::addSeparator(const KaCustomizedSeparatorItemData& data) {
-    auto* header = new KaMenuHeader(data.text, data.textColorSetName);
-    header->setPaddings(data.leftPadding, data.rightPadding);
-    header->setWrap(data.autoWrap);
-    header->setFixedHeight(std::max(1, data.itemHeight));
-    header->setMaximumWidth(std::max(1, data.maximumWidth));
-    if (!data.objectName.isEmpty())
-        header->setObjectName(data.objectName);
+QWidgetAction* KaMenu::addSeparator(const KaCustomizedSeparatorItemData& record) {
+    auto* header = new KaMenuHeader(record.text, record.textColorSetName);
+    header->setPaddings(record.leftPadding, record.rightPadding);
+    header->setWrap(record.autoWrap);
+    header->setFixedHeight(std::max(1, record.itemHeight));
+    header->setMaximumWidth(std::max(1, record.maximumWidth));
+    if (!record.objectName.isEmpty())
+        header->setObjectName(record.objectName);
     auto* action = new QWidgetAction(this);
     action->setDefaultWidget(header);
-    action->setText(data.text);
-    action->setProperty(kHeaderProperty, data.text);
+    action->setText(record.text);
+    action->setProperty(kHeaderProperty, record.text);
     // Headers are read, never chosen.
     action->setEnabled(false);
     QWidget::addAction(action);
@@ -802,7 +812,12 @@ bool KaMenu::focusNextPrevChild(bool next) {
 }
 
 void KaMenu::mouseMoveEvent(QMouseEvent* event) {
-    setFocusAction(nullptr);
+    // Only a real move hands the highlight back to the mouse; a window
+    // appearing under a still pointer also sends moves.
+    const QPoint position = event->globalPosition().toPoint();
+    if (position != m_lastMousePos)
+        setFocusAction(nullptr);
+    m_lastMousePos = position;
     KaMenuBase::mouseMoveEvent(event);
 }
 
@@ -874,18 +889,18 @@ void KaMenu::showEntryPopover(QWidget* entry) {
                                                           side, estimate.width(), estimate.height());
     const QScreen* screen = entry->screen();
     if (direction == KaWidgetData::ArrowRight && screen) {
-        const QRect raw(unclampedShowPoint(QRect(anchor->mapToGlobal(QPoint(0, 0)), anchor->size()), side,
-                                           estimate, KaPopupUtils::DefaultOffset),
+        const QRect raw(unclampedShowPoint(QRect(anchor->mapToGlobal(QPoint(0, 0)), anchor->QWidget::size()),
+                                           side, estimate, KaPopupUtils::DefaultOffset),
                         estimate);
         if (raw.left() < screen->availableGeometry().left() || point.x() < screen->availableGeometry().left())
             direction = KaWidgetData::ArrowLeft;
     }
     if (direction != KaWidgetData::ArrowLeft && direction != KaWidgetData::ArrowRight)
         direction = KaWidgetData::ArrowLeft;
-    KaWidgetData data;
-    data.arrowPostion(direction).shouldTakeFocus(false).autoDismiss(false).focusSourceOnClose(false).offset(
+    KaWidgetData record;
+    record.arrowPostion(direction).shouldTakeFocus(false).autoDismiss(false).focusSourceOnClose(false).offset(
         item->popupOffset());
-    m_popover = KaPopover::createAndShowTextPopover(anchor, this, text, data);
+    m_popover = KaPopover::createAndShowTextPopover(anchor, this, text, record);
     m_popoverOwner = entry;
     // The anchor goes with the popover.
     if (m_popover)

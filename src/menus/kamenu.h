@@ -162,6 +162,7 @@ private:
     QPointer<QWidget> m_popoverOwner;
     QPointer<KaMenuAction> m_focusAction;
     QPointer<QAction> m_hoveredAction;
+    QPoint m_lastMousePos;
     bool m_showArrow = false;
     bool m_separatorSecondary = false;
     bool m_focusCustomizedWidget = false;

@@ -72,7 +72,6 @@ void KaMenuBase::setThemeType(const QString& themeType) {
     if (m_themeType == themeType)
         return;
     m_themeType = themeType;
-    setProperty("themeType", themeType);
     refreshCSS();
     Q_EMIT themeTypeChanged();
 }

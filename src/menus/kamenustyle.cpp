@@ -6,6 +6,8 @@
 #include <QStyleFactory>
 #include <QStyleOptionMenuItem>
 
+#include <algorithm>
+
 namespace {
 // A separator is a one-pixel line with this much room above and below.
 constexpr int kSeparatorMargin = 4;

@@ -74,7 +74,8 @@ private Q_SLOTS:
         QTRY_VERIFY(menu.isVisible());
         const QColor outer = BzTest::set("global-focus-outline").normal();
         const QRect geometry = menu.actionGeometry(paste);
-        const QPoint edge(geometry.center().x(), geometry.top() + 3);
+        // The ring's solid outer line.
+        const QPoint edge(geometry.center().x(), geometry.top() + 2);
         menu.setActiveAction(paste);
         QVERIFY(!BzTest::near(BzTest::paint(menu).pixelColor(edge), outer, 8));
         QTest::keyClick(&menu, Qt::Key_Up);

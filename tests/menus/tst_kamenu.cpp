@@ -4,6 +4,7 @@
 #include "kadiscoverabilitybannerdata.h"
 #include "kamenu.h"
 #include "kamenuaction.h"
+#include "kamenuitem.h"
 #include "kamenuitemdata.h"
 #include "kapillbutton.h"
 #include "kapopover.h"
@@ -16,6 +17,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -269,7 +271,7 @@ private Q_SLOTS:
         // Entries with a sub-menu leave out "Menu Item"; banners and
         // separators are not counted.
         QCOMPARE(name(7), QStringLiteral("Share, Send to, 1 of 2"));
-        QCOMPARE(name(10), QStringLiteral("Share, Copy link, 2 of 2"));
+        QCOMPARE(name(10), QStringLiteral("Share, Copy link, Menu Item, 2 of 2"));
         QCOMPARE(iface->child(7)->role(), QAccessible::MenuItem);
     }
 
@@ -312,12 +314,12 @@ private Q_SLOTS:
         fill(menu, 2);
         menu.popupAt(QPoint(100, 100));
         QTRY_VERIFY(menu.isVisible());
-        // Inside the body above the first entry (no arrow: 15 px of room).
-        const QPoint inBubble(menu.width() / 2, 12);
+        // Inside the body below the last entry (no arrow: 15 px of room).
+        const QPoint inBubble(menu.width() / 2, menu.height() - menu.contentsMargins().bottom() + 3);
         const QColor light = KaPopupUtils::popupColors(BzThemeUtils::Light).background;
         const QColor dark = KaPopupUtils::popupColors(BzThemeUtils::Dark).background;
         QVERIFY(light != dark);
-        QVERIFY(BzTest::near(pixel(menu, inBubble), light));
+        QVERIFY2(BzTest::near(pixel(menu, inBubble), light), qPrintable(pixel(menu, inBubble).name()));
         const QColor lightOuter = menu.colors().focusOuter;
         BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
         KarvexUtils::updateSolvaneThemes();

@@ -1,5 +1,6 @@
 #include "kamenubase.h"
 
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
