@@ -5,6 +5,8 @@
 
 #include <QQuickItem>
 #include <QQuickWidget>
+#include <QQuickWindow>
+#include <QSGRendererInterface>
 #include <QVBoxLayout>
 
 QmlMenusPage::QmlMenusPage(QWidget* parent)
@@ -12,6 +14,11 @@ QmlMenusPage::QmlMenusPage(QWidget* parent)
     // What a host does once before loading QML; the installed module would
     // serve as well.
     KarvexTypes::registerQmlTypes();
+    // A flat button needs no GPU; the software renderer also works where
+    // OpenGL does not (offscreen screenshots, a virtual X server), while a
+    // failed OpenGL set-up leaves the view's accessibility pointing at a
+    // dead scene window.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     m_view = new QQuickWidget(this);
     m_view->setObjectName(QStringLiteral("qmlMenusView"));
     m_view->setResizeMode(QQuickWidget::SizeRootObjectToView);
