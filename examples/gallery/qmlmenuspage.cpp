@@ -3,6 +3,7 @@
 #include <bzthemeutils.h>
 #include <karvextypes.h>
 
+#include <QEvent>
 #include <QQuickItem>
 #include <QQuickWidget>
 #include <QQuickWindow>
@@ -41,6 +42,16 @@ void QmlMenusPage::onThemeChanged() {
     root->setProperty("buttonColor", BzThemeUtils::getColorSet("button-primary-background", type).normal());
     root->setProperty("buttonTextColor", BzThemeUtils::getColorSet("button-primary-text", type).normal());
     root->setProperty("focusColor", BzThemeUtils::getColorSet("label-primary-text", type).normal());
+    root->setProperty("mirrored", layoutDirection() == Qt::RightToLeft);
+}
+
+void QmlMenusPage::changeEvent(QEvent* event) {
+    GalleryPage::changeEvent(event);
+    // Qt Quick mirrors only when told to.
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        if (QQuickItem* root = m_view->rootObject())
+            root->setProperty("mirrored", layoutDirection() == Qt::RightToLeft);
+    }
 }
 
 void QmlMenusPage::retranslateUi() {

@@ -18,6 +18,7 @@ public Q_SLOTS:
 
 protected:
     void retranslateUi() override;
+    void changeEvent(QEvent* event) override;
 
 private:
     QQuickWidget* m_view;

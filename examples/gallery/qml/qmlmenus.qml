@@ -12,6 +12,10 @@ Rectangle {
     property string buttonText: "Open menu"
     property string lastChoice: ""
     property string choiceText: ""
+    property bool mirrored: false
+
+    LayoutMirroring.enabled: mirrored
+    LayoutMirroring.childrenInherit: true
 
     color: "transparent"
     implicitWidth: 360
@@ -42,8 +46,8 @@ Rectangle {
     Rectangle {
         id: button
         objectName: "menuButton"
-        x: 0
-        y: 8
+        anchors.left: parent.left
+        anchors.verticalCenter: parent.verticalCenter
         width: label.implicitWidth + 32
         height: 32
         radius: 4
