@@ -77,9 +77,14 @@ void addBanner(KaMenu* menu, QmlKaDiscoverabilityBannerData* banner) {
     data.type = banner->bannerType();
     data.width = banner->bannerWidth();
     QWidgetAction* action = menu->addDiscoverabilityBanner(data);
-    // The banner's dismissal belongs to the description too.
-    if (auto* widget = qobject_cast<KaDiscoverabilityBanner*>(action ? action->defaultWidget() : nullptr))
-        QObject::connect(widget, &KaDiscoverabilityBanner::dismissed, banner,
+    // The banner's dismissal belongs to the description too. The menu may
+    // hold the banner inside a container of its own.
+    QWidget* entry = action ? action->defaultWidget() : nullptr;
+    auto* shown = qobject_cast<KaDiscoverabilityBanner*>(entry);
+    if (!shown && entry)
+        shown = entry->findChild<KaDiscoverabilityBanner*>();
+    if (shown)
+        QObject::connect(shown, &KaDiscoverabilityBanner::dismissed, banner,
                          &QmlKaDiscoverabilityBannerData::dismissed);
 }
 } // namespace

@@ -2,9 +2,11 @@
 #include "kamenu.h"
 #include "kamenuaction.h"
 #include "kamenulistmodel.h"
+#include "qmlkadiscoverabilitybannerdata.h"
 #include "qmlkamenudata.h"
 #include "qmlkamenuitemdata.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QPointer>
 #include <QQmlEngine>
@@ -45,18 +47,23 @@ KaMenu* openMenu() {
 // What an entry is, in a form the tests can compare: "-" a line, "=" a
 // group line, "#<name>" a header, "banner:<text>", otherwise the object
 // name of the item description.
+KaDiscoverabilityBanner* bannerOf(QAction* action) {
+    auto* entry = qobject_cast<QWidgetAction*>(action);
+    QWidget* widget = entry ? entry->defaultWidget() : nullptr;
+    if (auto* banner = qobject_cast<KaDiscoverabilityBanner*>(widget))
+        return banner;
+    return widget ? widget->findChild<KaDiscoverabilityBanner*>() : nullptr;
+}
+
 QString describe(QAction* action) {
     if (action->isSeparator())
         return action->property("_ka_menu_group_separator").toBool() ? QStringLiteral("=")
                                                                      : QStringLiteral("-");
-    auto* entry = qobject_cast<QWidgetAction*>(action);
-    if (entry && !qobject_cast<KaMenuAction*>(action)) {
-        if (auto* banner = qobject_cast<KaDiscoverabilityBanner*>(entry->defaultWidget()))
-            return QStringLiteral("banner:") + banner->bannerText();
-        return QLatin1Char('#') + entry->defaultWidget()->objectName();
-    }
-    if (auto* banner = qobject_cast<KaDiscoverabilityBanner*>(entry ? entry->defaultWidget() : nullptr))
+    if (KaDiscoverabilityBanner* banner = bannerOf(action))
         return QStringLiteral("banner:") + banner->bannerText();
+    auto* entry = qobject_cast<QWidgetAction*>(action);
+    if (entry && !qobject_cast<KaMenuAction*>(action))
+        return QLatin1Char('#') + entry->defaultWidget()->objectName();
     return action->objectName();
 }
 
@@ -145,6 +152,14 @@ void tst_QmlKaMenuData::forwardsTheEntrySignals() {
     QCOMPARE(root->property("lastToggled").toBool(), true);
     child->trigger();
     QCOMPARE(root->property("lastToggled").toBool(), false);
+
+    auto* description = root->findChild<QmlKaDiscoverabilityBannerData*>(QStringLiteral("banner"));
+    QSignalSpy dismissed(description, &QmlKaDiscoverabilityBannerData::dismissed);
+    for (QAction* action : menu->actions()) {
+        if (KaDiscoverabilityBanner* banner = bannerOf(action))
+            banner->findChild<QAbstractButton*>(QStringLiteral("dismissButton"))->click();
+    }
+    QCOMPARE(dismissed.count(), 1);
 }
 
 void tst_QmlKaMenuData::activeFollowsTheMenu() {
