@@ -204,6 +204,9 @@ KaMenu::KaMenu(QWidget* parent)
 }
 
 KaMenu::~KaMenu() {
+    // Sub-menus die in QWidget's destructor, when this is no KaMenu any more.
+    for (const QMetaObject::Connection& connection : std::as_const(m_subMenuConnections))
+        disconnect(connection);
     // The style dies with the menu, but the widget must not be left
     // pointing at it while QWidget tears down.
     QWidget::setStyle(nullptr);
@@ -255,7 +258,7 @@ void KaMenu::attachSubMenu(KaMenuAction* action, KaMenu* menu) {
     action->setActionIconVisible(true);
     // Without its sub-menu the entry is a plain one again.
     QPointer<KaMenuAction> guarded(action);
-    connect(menu, &QObject::destroyed, this, [this, guarded] {
+    m_subMenuConnections << connect(menu, &QObject::destroyed, this, [this, guarded] {
         if (guarded)
             guarded->setActionIconVisible(false);
         scheduleAccessibleUpdate();

@@ -162,6 +162,7 @@ private:
     QPointer<QWidget> m_popoverOwner;
     QPointer<KaMenuAction> m_focusAction;
     QPointer<QAction> m_hoveredAction;
+    QList<QMetaObject::Connection> m_subMenuConnections;
     QPoint m_lastMousePos;
     bool m_showArrow = false;
     bool m_separatorSecondary = false;
