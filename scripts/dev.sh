@@ -16,7 +16,8 @@ packages=(cmake ninja-build g++ pkg-config clang-format
           qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
           clang libclang-rt-14-dev ccache
           fontconfig fonts-dejavu-core xauth xvfb
-          dbus at-spi2-core python3-pyatspi)
+          dbus at-spi2-core python3-pyatspi
+          qml6-module-qtquick qml6-module-qtqml-workerscript qml6-module-qtqml-models qml-qt6)
 
 install_missing() {
     local missing=()

@@ -9,6 +9,7 @@
 #include "menuspage.h"
 #include "navigationpage.h"
 #include "popupspage.h"
+#include "qmlmenuspage.h"
 #include "selectionpage.h"
 #include "textinputpage.h"
 #include "tokenspage.h"
@@ -39,6 +40,7 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
         {QStringLiteral("banners"), QT_TRANSLATE_NOOP("GalleryPages", "Banners and feedback"),
          &create<BannersPage>},
         {QStringLiteral("menus"), QT_TRANSLATE_NOOP("GalleryPages", "Menus"), &create<MenusPage>},
+        {QStringLiteral("qmlmenus"), QT_TRANSLATE_NOOP("GalleryPages", "QML menus"), &create<QmlMenusPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };
