@@ -3,6 +3,7 @@
 #include "avatarspage.h"
 #include "bannerspage.h"
 #include "buttonspage.h"
+#include "designerformspage.h"
 #include "focuspage.h"
 #include "foundationpage.h"
 #include "iconspage.h"
@@ -37,6 +38,8 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
          &create<AvatarsPage>},
         {QStringLiteral("banners"), QT_TRANSLATE_NOOP("GalleryPages", "Banners and feedback"),
          &create<BannersPage>},
+        {QStringLiteral("designer"), QT_TRANSLATE_NOOP("GalleryPages", "Designer forms"),
+         &create<DesignerFormsPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };
