@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDomDocument>
 #include <QList>
 #include <QMetaEnum>
 #include <QMetaProperty>
@@ -7,7 +8,6 @@
 #include <QString>
 #include <QTest>
 #include <QWidget>
-#include <QXmlStreamReader>
 
 // What a form says about its widgets, read independently of QUiLoader and
 // uic so that the tests can hold their results against it.
@@ -31,54 +31,32 @@ struct Form {
 
 inline Form readForm(const QString& xml) {
     Form form;
-    QXmlStreamReader reader(xml);
-    // Indices: appending may move the widgets.
-    QList<int> open;
-    QByteArray property;
-    bool inCustomWidget = false;
-    QStringList elements;
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (reader.isStartElement()) {
-            const auto name = reader.name();
-            // Only the widget's own properties, not those of combo box items.
-            const bool ownProperty = elements.size() >= 2 &&
-                                     elements.at(elements.size() - 2) == QLatin1String("widget") &&
-                                     elements.last() == QLatin1String("property");
-            elements.append(name.toString());
-            if (form.rootName.isEmpty()) {
-                form.rootName = name.toString();
-                form.language = reader.attributes().value(QLatin1String("language")).toString();
-            } else if (name == QLatin1String("widget")) {
-                form.widgets.append({reader.attributes().value(QLatin1String("class")).toString(),
-                                     reader.attributes().value(QLatin1String("name")).toString(),
-                                     {},
-                                     {}});
-                open.append(int(form.widgets.size()) - 1);
-            } else if (name == QLatin1String("property")) {
-                property = reader.attributes().value(QLatin1String("name")).toLatin1();
-            } else if (name == QLatin1String("enum") && ownProperty) {
-                form.widgets[open.last()].enums.append({property, reader.readElementText().toLatin1()});
-            } else if (name == QLatin1String("string") && ownProperty) {
-                form.widgets[open.last()].strings.append({property, reader.readElementText()});
-            } else if (name == QLatin1String("customwidget")) {
-                inCustomWidget = true;
-            } else if (name == QLatin1String("class") && inCustomWidget) {
-                form.customClasses.append(reader.readElementText());
-            }
-            // readElementText() consumed the end element.
-            if (reader.isEndElement())
-                elements.removeLast();
-        } else if (reader.isEndElement()) {
-            elements.removeLast();
-            if (reader.name() == QLatin1String("widget"))
-                open.removeLast();
-            else if (reader.name() == QLatin1String("customwidget"))
-                inCustomWidget = false;
+    QDomDocument document;
+    if (!document.setContent(xml, &form.error))
+        return form;
+    const QDomElement root = document.documentElement();
+    form.rootName = root.tagName();
+    form.language = root.attribute(QStringLiteral("language"));
+    const QDomNodeList widgets = root.elementsByTagName(QStringLiteral("widget"));
+    for (int i = 0; i < widgets.size(); ++i) {
+        const QDomElement element = widgets.at(i).toElement();
+        FormWidget widget{
+            element.attribute(QStringLiteral("class")), element.attribute(QStringLiteral("name")), {}, {}};
+        // Only the widget's own properties, not those of combo box items.
+        for (QDomElement property = element.firstChildElement(QStringLiteral("property")); !property.isNull();
+             property = property.nextSiblingElement(QStringLiteral("property"))) {
+            const QByteArray name = property.attribute(QStringLiteral("name")).toLatin1();
+            const QDomElement value = property.firstChildElement();
+            if (value.tagName() == QLatin1String("enum"))
+                widget.enums.append({name, value.text().toLatin1()});
+            else if (value.tagName() == QLatin1String("string"))
+                widget.strings.append({name, value.text()});
         }
+        form.widgets.append(widget);
     }
-    if (reader.hasError())
-        form.error = reader.errorString();
+    const QDomNodeList custom = root.elementsByTagName(QStringLiteral("customwidget"));
+    for (int i = 0; i < custom.size(); ++i)
+        form.customClasses.append(custom.at(i).firstChildElement(QStringLiteral("class")).text());
     return form;
 }
 
