@@ -13,7 +13,7 @@ jobs=$(nproc 2>/dev/null || echo 2)
 
 packages=(cmake ninja-build g++ pkg-config clang-format
           qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-declarative-dev
-          qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
+          qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools designer-qt6 libgl-dev
           clang libclang-rt-14-dev ccache
           fontconfig fonts-dejavu-core xauth xvfb
           dbus at-spi2-core python3-pyatspi

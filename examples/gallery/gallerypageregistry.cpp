@@ -3,6 +3,7 @@
 #include "avatarspage.h"
 #include "bannerspage.h"
 #include "buttonspage.h"
+#include "designerformspage.h"
 #include "focuspage.h"
 #include "foundationpage.h"
 #include "iconspage.h"
@@ -41,6 +42,8 @@ const std::vector<GalleryPageRegistry::Entry>& GalleryPageRegistry::entries() {
          &create<BannersPage>},
         {QStringLiteral("menus"), QT_TRANSLATE_NOOP("GalleryPages", "Menus"), &create<MenusPage>},
         {QStringLiteral("qmlmenus"), QT_TRANSLATE_NOOP("GalleryPages", "QML menus"), &create<QmlMenusPage>},
+        {QStringLiteral("designer"), QT_TRANSLATE_NOOP("GalleryPages", "Designer forms"),
+         &create<DesignerFormsPage>},
         {QStringLiteral("icons"), QT_TRANSLATE_NOOP("GalleryPages", "Icons"), &create<IconsPage>},
         {QStringLiteral("tokens"), QT_TRANSLATE_NOOP("GalleryPages", "Colour tokens"), &create<TokensPage>},
     };

@@ -2,13 +2,12 @@
 
 #include "kaavatarconfig.h"
 #include "kaavatarenum.h"
+#include "kapixmaploader.h"
 #include "karvex_export.h"
 
 #include <kalabelbase.h>
 
 #include <QPointer>
-
-class KaPixmapLoader;
 
 // Shows one avatar made by a shared KaPixmapLoader and sizes itself to it.
 // Every property change asks the loader again; so does every

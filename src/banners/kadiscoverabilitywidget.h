@@ -1,13 +1,12 @@
 #pragma once
 
 #include "kadiscoverabilityenum.h"
+#include "kadiscoverabilitylabel.h"
 #include "karvex_export.h"
 
 #include <bzwidget.h>
 
 #include <QPointer>
-
-class KaDiscoverabilityLabel;
 
 // A host widget that pins a "new" badge ("discoverabilityBadge") to its
 // top-right corner, above its other children. The badge starts hidden.

@@ -4,6 +4,7 @@
 #include "ikabuttonconfig.h"
 #include "karvex_export.h"
 
+#include <QMetaEnum>
 #include <QPointer>
 #include <QString>
 
@@ -150,9 +151,17 @@ protected:
     // Writes one configuration field for a button setter. Does nothing
     // without a configuration or when the field already holds `value`;
     // returns whether it changed, so that the setter then emits its own
-    // change signal and refreshConfig().
+    // change signal and refreshConfig(). Enumeration values that are not
+    // keys (a form naming a key the enumeration lacks) are refused.
     template <typename Config, typename Get, typename Set, typename Value>
     bool writeConfig(Config* config, Get get, Set set, const Value& value) {
+        if constexpr (QtPrivate::IsQEnumHelper<Value>::Value) {
+            if (!QMetaEnum::fromType<Value>().valueToKey(int(value))) {
+                qWarning("%s: %d is not a key of %s, ignored", metaObject()->className(), int(value),
+                         QMetaEnum::fromType<Value>().name());
+                return false;
+            }
+        }
         if (!config || (config->*get)() == value)
             return false;
         const ConfigWrite write(this);

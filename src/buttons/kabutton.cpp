@@ -3,6 +3,7 @@
 #include "kamenu.h"
 
 #include <QAction>
+#include <QMetaEnum>
 
 KaButton::KaButton(QWidget* parent, IKaButtonConfig* config)
     : IKaButton(parent, config)
@@ -29,6 +30,10 @@ void KaButton::onToggled(bool checked) {
 void KaButton::setStyle(KaButtonEnum::Style style) {
     if (!m_buttonConfig)
         return;
+    if (!QMetaEnum::fromType<KaButtonEnum::Style>().valueToKey(style)) {
+        qWarning("%s: %d is not a key of Style, ignored", metaObject()->className(), int(style));
+        return;
+    }
     {
         const ConfigWrite write(this);
         m_buttonConfig->setStyle(style);

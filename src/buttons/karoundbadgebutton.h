@@ -1,12 +1,11 @@
 #pragma once
 
+#include "kabadge.h"
 #include "kaiconbadge.h"
 #include "karoundbutton.h"
 #include "karvex_export.h"
 
 #include <QPointer>
-
-class KaBadge;
 
 // A round button with a counter or an icon badge at its upper trailing
 // corner. Defaults: style Join, size ExtraSmall. The badge is part of the

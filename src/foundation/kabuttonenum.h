@@ -8,7 +8,9 @@
 class KARVEX_EXPORT KaButtonEnum : public QObject {
     Q_OBJECT
 public:
-    enum Style {
+    // Fixed underlying types: forms and scripts can hand in values that are
+    // not keys, which the setters then refuse.
+    enum Style : int {
         Primary = 0,
         Secondary = 1,
         Ghost = 2,
@@ -32,7 +34,7 @@ public:
     };
     Q_ENUM(Style)
 
-    enum Size {
+    enum Size : int {
         ExtraLarge = 0,
         Large = 1,
         Normal = 2,

@@ -8,9 +8,9 @@
 class KARVEX_EXPORT KaIconButtonEnum : public QObject {
     Q_OBJECT
 public:
-    enum Style { ACTIVE = 0, INACTIVE = 1 };
+    enum Style : int { ACTIVE = 0, INACTIVE = 1 };
     Q_ENUM(Style)
 
-    enum Type { None = 0, Settings = 1, Favorite = 2, Attachment = 3, Pen = 4, Info = 5, Dismiss = 6 };
+    enum Type : int { None = 0, Settings = 1, Favorite = 2, Attachment = 3, Pen = 4, Info = 5, Dismiss = 6 };
     Q_ENUM(Type)
 };
