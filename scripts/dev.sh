@@ -85,6 +85,7 @@ bench)
     QT_QPA_PLATFORM=offscreen build/bench/bench_labels
     QT_QPA_PLATFORM=offscreen build/bench/bench_avatars
     QT_QPA_PLATFORM=offscreen build/bench/bench_combobox
+    QT_QPA_PLATFORM=offscreen build/bench/bench_menus
     ;;
 *)
     echo "usage: $0 gallery|test|bench" >&2
