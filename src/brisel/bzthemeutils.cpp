@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QHash>
+#include <QMetaMethod>
 #include <QMetaObject>
 #include <QPointer>
 #include <QSet>
@@ -326,4 +327,15 @@ bool bzThemeRefreshInProgress() {
 
 quint64 bzThemeRefreshSerial() {
     return s_refreshSerial;
+}
+
+QMetaObject::Connection BzThemeUtils::connectParentThemeType(QObject* parent, QObject* receiver) {
+    if (!parent || !receiver)
+        return {};
+    const int signal = parent->metaObject()->indexOfSignal("themeTypeChanged()");
+    const int slot = receiver->metaObject()->indexOfSlot("onParentThemeTypeChanged()");
+    if (signal < 0 || slot < 0)
+        return {};
+    return QObject::connect(parent, parent->metaObject()->method(signal), receiver,
+                            receiver->metaObject()->method(slot));
 }

@@ -45,6 +45,10 @@ BRISEL_EXPORT const QHash<QString, BzColorSet>& getAppWColorSets();
 // The theme type a widget paints in: the first "themeType" dynamic property
 // found on the widget or its ancestors; Global when there is none.
 BRISEL_EXPORT AppThemeType getThemeTypeOfWidget(const QWidget* widget);
+// Connects `parent`'s themeTypeChanged(), when its class declares one, to
+// `receiver`'s onParentThemeTypeChanged() slot; returns an invalid connection
+// when either is missing. For widgets that follow their parent's theme type.
+BRISEL_EXPORT QMetaObject::Connection connectParentThemeType(QObject* parent, QObject* receiver);
 BRISEL_EXPORT bool isHighContrastEnabled();
 BRISEL_EXPORT BzColorSet transparentColourSet();
 

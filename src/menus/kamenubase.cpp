@@ -4,7 +4,6 @@
 #include <bzthemeutils.h>
 
 #include <QEvent>
-#include <QMetaMethod>
 
 KaMenuBase::KaMenuBase(QMenu* source)
     : KaMenuBase(nullptr, false) {
@@ -92,15 +91,7 @@ void KaMenuBase::onParentThemeTypeChanged() {
 void KaMenuBase::connectParentThemeType() {
     if (m_parentThemeConnection)
         disconnect(m_parentThemeConnection);
-    QWidget* parent = parentWidget();
-    if (!parent)
-        return;
-    const int index = parent->metaObject()->indexOfSignal("themeTypeChanged()");
-    if (index < 0)
-        return;
-    const QMetaMethod slot = KaMenuBase::staticMetaObject.method(
-        KaMenuBase::staticMetaObject.indexOfSlot("onParentThemeTypeChanged()"));
-    m_parentThemeConnection = connect(parent, parent->metaObject()->method(index), this, slot);
+    m_parentThemeConnection = BzThemeUtils::connectParentThemeType(parentWidget(), this);
 }
 
 void KaMenuBase::changeEvent(QEvent* event) {

@@ -16,7 +16,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -552,15 +551,7 @@ void KaComboBoxBase::onParentThemeTypeChanged() {
 void KaComboBoxBase::connectParentThemeType() {
     if (m_parentThemeConnection)
         disconnect(m_parentThemeConnection);
-    QWidget* parent = parentWidget();
-    if (!parent)
-        return;
-    const int index = parent->metaObject()->indexOfSignal("themeTypeChanged()");
-    if (index < 0)
-        return;
-    const QMetaMethod signal = parent->metaObject()->method(index);
-    const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("onParentThemeTypeChanged()"));
-    m_parentThemeConnection = connect(parent, signal, this, slot);
+    m_parentThemeConnection = BzThemeUtils::connectParentThemeType(parentWidget(), this);
 }
 
 void KaComboBoxBase::changeEvent(QEvent* event) {
