@@ -124,7 +124,6 @@ KaMenuItem::KaMenuItem(QWidget* parent)
     m_inner = new QVBoxLayout;
     m_title = new KaEmojiLabel(this);
     m_title->setObjectName(partName(Column));
-    m_title->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     // As wide as the text asks, up to the entry's maximum width; beyond it
     // the title is elided.
     m_title->setElideMode(Qt::ElideRight);
@@ -495,9 +494,17 @@ void KaMenuItem::refresh() {
     setMaximumWidth(qMax(l.minimumWidth, l.maximumWidth));
 }
 
+// The entry's side, not the text's: a plain-text label would otherwise align
+// Latin text left in a right-to-left menu, as QLabel does.
+static Qt::Alignment leadingSide(const QWidget* item) {
+    return (item->layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+           Qt::AlignVCenter;
+}
+
 void KaMenuItem::onLayoutDirectionChanged() {
+    m_title->setAlignment(leadingSide(this));
     if (m_subText)
-        m_subText->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+        m_subText->setAlignment(leadingSide(this));
     // Our own chevrons point to the trailing side; a custom icon stays.
     static const QRegularExpression ownArrow(QStringLiteral("(arrow-left-|arrow-right-)"));
     if (!m_actionIconPath.isEmpty() && !m_actionIconPath.contains(ownArrow))
@@ -595,7 +602,7 @@ KaEmojiLabel* KaMenuItem::ensureSubText() {
     if (m_subText)
         return m_subText;
     auto* label = new KaEmojiLabel(this);
-    label->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    label->setAlignment(leadingSide(this));
     label->setWordWrap(false);
     label->setElideMode(Qt::ElideRight);
     label->setMinimumWidth(1);

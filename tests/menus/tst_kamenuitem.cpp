@@ -120,10 +120,27 @@ private Q_SLOTS:
         QCOMPARE(submenu.actionIcon(), kRight);
         QCOMPARE(submenu.findChild<KaSvgLabel*>()->svgIcon(), kRight);
 
+        // Where the title's first ink is, from the title label's left edge.
+        auto inkStart = [&submenu] {
+            submenu.layout()->activate();
+            auto* title = submenu.findChild<KaLabel*>(QStringLiteral("title"));
+            const QImage image = title->grab().toImage();
+            for (int x = 0; x < image.width(); ++x) {
+                for (int y = 0; y < image.height(); ++y) {
+                    if (image.pixel(x, y) != image.pixel(0, 0))
+                        return x * 2 < image.width() ? 0 : 1;
+                }
+            }
+            return -1;
+        };
+        QCOMPARE(inkStart(), 0);
+
         QApplication::setLayoutDirection(Qt::RightToLeft);
         QTRY_COMPARE(submenu.actionIcon(), kLeft);
         QCOMPARE(submenu.findChild<KaSvgLabel*>()->svgIcon(), kLeft);
         QCOMPARE(custom.actionIcon(), kCustom);
+        // Latin text too starts on the entry's leading side.
+        QCOMPARE(inkStart(), 1);
 
         QApplication::setLayoutDirection(Qt::LeftToRight);
         QTRY_COMPARE(submenu.actionIcon(), kRight);
