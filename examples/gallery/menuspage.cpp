@@ -5,10 +5,10 @@
 #include <bzfont.h>
 #include <bzthemeutils.h>
 #include <kachips.h>
-#include <kalabelbase.h>
 #include <kacontextmenu.h>
 #include <kacustomizedseparatoritemdata.h>
 #include <kadiscoverabilitybannerdata.h>
+#include <kalabelbase.h>
 #include <kamenu.h>
 #include <kamenuaction.h>
 #include <kamenuitemdata.h>
@@ -49,6 +49,7 @@ const char kContextTemplate[] =
 MenusPage::MenusPage(QWidget* parent)
     : GalleryPage(parent) {
     addAlignmentSection();
+    addStyleSection();
     addRichSection();
     addContextSection();
     addEdgeSection();
@@ -105,6 +106,35 @@ void MenusPage::addAlignmentSection() {
         ++c;
     }
     grid->setColumnStretch(c, 1);
+    column->addLayout(grid);
+    contentLayout()->addLayout(column);
+}
+
+void MenusPage::addStyleSection() {
+    addHeading(QT_TR_NOOP("Styles and sizes"));
+    auto* column = new QVBoxLayout;
+    addCaption(QT_TR_NOOP("Normal menus have slightly rounded entries; circular ones round them more as "
+                          "the size grows. Entries are 32, 40 or 50 pixels high."),
+               column);
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(8);
+    const char* const styles[] = {QT_TR_NOOP("Normal"), QT_TR_NOOP("Circular")};
+    const char* const sizes[] = {QT_TR_NOOP("small"), QT_TR_NOOP("medium"), QT_TR_NOOP("large")};
+    for (int style = 0; style < 2; ++style) {
+        for (int size = 0; size < 3; ++size) {
+            KaPillButton* button = addMenuButton(KaPopupEnum::Bottom, false, false);
+            m_buttons.back().style = KaMenuEnum::Style(style);
+            m_buttons.back().size = KaMenuEnum::Size(size);
+            const char* styleText = styles[style];
+            const char* sizeText = sizes[size];
+            onRetranslate([button, styleText, sizeText] {
+                button->setText(tr("%1, %2").arg(tr(styleText), tr(sizeText)));
+            });
+            grid->addWidget(button, style, size);
+        }
+    }
+    grid->setColumnStretch(3, 1);
     column->addLayout(grid);
     contentLayout()->addLayout(column);
 }
@@ -259,6 +289,8 @@ void MenusPage::rebuildMenus() {
     for (MenuButton& b : m_buttons) {
         delete b.menu;
         b.menu = b.rich ? buildRichMenu() : buildSimpleMenu();
+        b.menu->setStyle(b.style);
+        b.menu->setSize(b.size);
         b.menu->popupWith(b.button, b.alignment, b.arrow);
     }
 }
@@ -272,7 +304,7 @@ void MenusPage::retranslateUi() {
 }
 
 int MenusPage::screenshotPopupCount() const {
-    return 4;
+    return 5;
 }
 
 QString MenusPage::screenshotPopupName(int index) const {
@@ -283,15 +315,20 @@ QString MenusPage::screenshotPopupName(int index) const {
         return QStringLiteral("menu-above-arrow");
     case 2:
         return QStringLiteral("menu-right-arrow");
+    case 3:
+        return QStringLiteral("menu-circular-large");
     default:
         return QStringLiteral("context-menu");
     }
 }
 
 QList<QWidget*> MenusPage::openScreenshotPopup(int index) {
-    const auto find = [this](KaPopupEnum::Alignment alignment, bool arrow, bool rich) -> const MenuButton* {
+    const auto find = [this](KaPopupEnum::Alignment alignment, bool arrow, bool rich,
+                             KaMenuEnum::Style style = KaMenuEnum::Normal,
+                             KaMenuEnum::Size size = KaMenuEnum::Medium) -> const MenuButton* {
         for (const MenuButton& b : m_buttons)
-            if (b.alignment == alignment && b.arrow == arrow && b.rich == rich)
+            if (b.alignment == alignment && b.arrow == arrow && b.rich == rich && b.style == style &&
+                b.size == size)
                 return &b;
         return nullptr;
     };
@@ -305,6 +342,9 @@ QList<QWidget*> MenusPage::openScreenshotPopup(int index) {
         break;
     case 2:
         b = find(KaPopupEnum::Right, true, false);
+        break;
+    case 3:
+        b = find(KaPopupEnum::Bottom, false, false, KaMenuEnum::Circular, KaMenuEnum::Large);
         break;
     default: {
         auto* menu = new KaContextMenu(this);
@@ -321,6 +361,10 @@ QList<QWidget*> MenusPage::openScreenshotPopup(int index) {
         return {};
     b->menu->popup();
     QList<QWidget*> windows{b->menu};
+    if (index == 3 && !b->menu->actions().isEmpty()) {
+        // The highlight shows the style's corner radius.
+        b->menu->setActiveAction(b->menu->actions().constFirst());
+    }
     if (index == 0) {
         // Unfold the sub-menu too.
         for (QAction* action : b->menu->actions()) {

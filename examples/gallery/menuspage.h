@@ -2,6 +2,7 @@
 
 #include "gallerypage.h"
 
+#include <kamenuenum.h>
 #include <kapopupenum.h>
 
 #include <QList>
@@ -16,7 +17,7 @@ class KaPillButton;
 class QBoxLayout;
 
 // Menu buttons opening on every side of their anchor with and without an
-// arrow, a menu with every kind of entry, the right-click menu, menus near
+// arrow, menus in every style and size, a menu with every kind of entry, the right-click menu, menus near
 // the edges that flip to stay on screen, and a row of chips.
 class MenusPage : public GalleryPage {
     Q_OBJECT
@@ -37,9 +38,12 @@ private:
         bool arrow;
         bool rich;
         QPointer<KaMenu> menu;
+        KaMenuEnum::Style style = KaMenuEnum::Normal;
+        KaMenuEnum::Size size = KaMenuEnum::Medium;
     };
 
     void addAlignmentSection();
+    void addStyleSection();
     void addRichSection();
     void addContextSection();
     void addEdgeSection();
