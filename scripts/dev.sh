@@ -78,7 +78,10 @@ test)
     echo "== again built by clang with AddressSanitizer, UndefinedBehaviorSanitizer and LeakSanitizer"
     # Unoptimised: compiles in about half the time, and the sanitizers see
     # more. clang, so that its warnings and checks run on every change too.
+    # Line tables only: the sanitizers' reports keep file and line, the
+    # compile and link skip full debug information.
     build build-sanitize-clang -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug -DKARVEX_SANITIZE=ON \
+        -DCMAKE_CXX_FLAGS_DEBUG=-g1 \
         -DKARVEX_BUILD_GALLERY=OFF -DKARVEX_BUILD_BENCH=OFF
     run_tests build-sanitize-clang
     ;;
