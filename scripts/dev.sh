@@ -42,6 +42,9 @@ build() { # build DIR [cmake options...]; later options override the default bui
         export CCACHE_BASEDIR="$here" CCACHE_NOHASHDIR=true
         # The tests share precompiled headers; these let ccache cache them.
         export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+        # Hash the compiler's own dependency list instead of running the
+        # preprocessor first: a third less work per file when the cache misses.
+        export CCACHE_DEPEND=true
     fi
     # lld links the hundred-odd test programs in a fraction of ld's time.
     if command -v ld.lld >/dev/null; then
