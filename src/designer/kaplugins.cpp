@@ -57,31 +57,31 @@ const char kTextFieldStyle[] =
 #undef KARVEX_ENUM
 #undef KARVEX_GEOMETRY
 
-// Property specifications: icon paths are edited as untranslated URLs.
+// Designer edits icon paths as untranslated URLs.
 
-#define KARVEX_ICON_SPEC(property, tip)                                                                      \
+#define KARVEX_ICON_EDITOR(property, tip)                                                                    \
     "<stringpropertyspecification name=\"" property "\" notr=\"true\" type=\"url\"/>"                        \
     "<tooltip name=\"" property "\">" tip "</tooltip>"
 
-const char kNoSpecs[] = "";
-const char kRoundButtonSpecs[] = KARVEX_ICON_SPEC("leftIcon", "Sets the left icon path of the button")
-    KARVEX_ICON_SPEC("leftIconOn", "Sets the on left icon path of the button for check state");
-const char kPillButtonSpecs[] = KARVEX_ICON_SPEC("leftIcon", "Sets the left icon path of the button")
-    KARVEX_ICON_SPEC("leftIconOn", "Sets the on left icon path of the button for check state")
-        KARVEX_ICON_SPEC("rightIcon", "Sets the right icon path of the button")
-            KARVEX_ICON_SPEC("rightIconOn", "Sets the on right icon path of the button for check state");
+const char kNoEditors[] = "";
+const char kRoundButtonEditors[] = KARVEX_ICON_EDITOR("leftIcon", "Sets the left icon path of the button")
+    KARVEX_ICON_EDITOR("leftIconOn", "Sets the on left icon path of the button for check state");
+const char kPillButtonEditors[] = KARVEX_ICON_EDITOR("leftIcon", "Sets the left icon path of the button")
+    KARVEX_ICON_EDITOR("leftIconOn", "Sets the on left icon path of the button for check state")
+        KARVEX_ICON_EDITOR("rightIcon", "Sets the right icon path of the button")
+            KARVEX_ICON_EDITOR("rightIconOn", "Sets the on right icon path of the button for check state");
 
-#undef KARVEX_ICON_SPEC
+#undef KARVEX_ICON_EDITOR
 
 } // namespace
 
 KaPluginBase::KaPluginBase(const char* className, const char* objectName, const char* properties,
-                           const char* specs, QObject* parent)
+                           const char* editors, QObject* parent)
     : QObject(parent)
     , m_className(className)
     , m_objectName(objectName)
     , m_properties(properties)
-    , m_specs(specs) {}
+    , m_editors(editors) {}
 
 QString KaPluginBase::name() const {
     return QString::fromLatin1(m_className);
@@ -128,7 +128,7 @@ QString KaPluginBase::domXml() const {
            QLatin1String("\" name=\"") + QLatin1String(m_objectName) + QLatin1String("\">") +
            QLatin1String(m_properties) + QLatin1String("</widget><customwidgets><customwidget><class>") +
            QLatin1String(m_className) + QLatin1String("</class><propertyspecifications>") +
-           QLatin1String(m_specs) +
+           QLatin1String(m_editors) +
            QLatin1String("</propertyspecifications></customwidget></customwidgets></ui>");
 }
 
@@ -136,9 +136,9 @@ QString KaPluginBase::codeTemplate() const {
     return QString();
 }
 
-#define KARVEX_DEFINE_DESIGNER_PLUGIN(Widget, ObjectName, Properties, Specs)                                 \
+#define KARVEX_DEFINE_DESIGNER_PLUGIN(Widget, ObjectName, Properties, Editors)                               \
     KaPlugin_##Widget::KaPlugin_##Widget(QObject* parent)                                                    \
-        : KaPluginBase(#Widget, #ObjectName, Properties, Specs, parent) {}                                   \
+        : KaPluginBase(#Widget, #ObjectName, Properties, Editors, parent) {}                                 \
     QWidget* KaPlugin_##Widget::createWidget(QWidget* parent) {                                              \
         return new Widget(parent);                                                                           \
     }

@@ -5,39 +5,39 @@
 
 // The widgets that Designer can place, one row each, in widget-box order:
 // X(widget class, object name in the form fragment, fragment properties,
-// property specifications). The property and specification arguments name
+// Designer property editors). The property and editor arguments name
 // XML snippets defined in kaplugins.cpp; only that file expands them.
 #define KARVEX_DESIGNER_WIDGETS(X)                                                                           \
-    X(KaRoundButton, RoundButton, kPrimaryNormal, kRoundButtonSpecs)                                         \
-    X(KaPillButton, PillButton, kPrimaryNormal, kPillButtonSpecs)                                            \
-    X(KaIconButton, IconButton, kIconTypeNone, kNoSpecs)                                                     \
-    X(KaDualComboButton, DualComboButton, kDualComboStyle, kNoSpecs)                                         \
-    X(KaDualIconButton, DualIconButton, kDualIconStyle, kNoSpecs)                                            \
-    X(KaEmojiPushButton, EmojiPushButton, kText, kNoSpecs)                                                   \
-    X(KaTextField, TextField, kTextFieldStyle, kNoSpecs)                                                     \
-    X(KaTextFieldWithHint, TextFieldWithHint, kTextFieldStyle, kNoSpecs)                                     \
-    X(KaPinTextField, PinTextField, kTextFieldStyle, kNoSpecs)                                               \
-    X(KaLabel, Label, kText, kNoSpecs)                                                                       \
-    X(KaEmojiLabel, EmojiLabel, kText, kNoSpecs)                                                             \
-    X(KaAnnounceLabel, AnnounceLabel, kText, kNoSpecs)                                                       \
-    X(KaGifLabel, GifLabel, kText, kNoSpecs)                                                                 \
-    X(KaMultipleLinkLabel, MultipleLinkLabel, kText, kNoSpecs)                                               \
-    X(KaSvgLabel, SvgLabel, kText, kNoSpecs)                                                                 \
-    X(KaCheckBox, CheckBox, kText, kNoSpecs)                                                                 \
-    X(KaRadioButton, RadioButton, kText, kNoSpecs)                                                           \
-    X(KaComboBox, ComboBox, kText, kNoSpecs)                                                                 \
-    X(KaTabView, TabView, kWideGeometry, kNoSpecs)                                                           \
-    X(KaAvatarView, AvatarView, kText, kNoSpecs)                                                             \
-    X(KaDiscoverabilityWidget, DiscoverabilityWidget, kNoProperties, kNoSpecs)                               \
-    X(KaRoundBadgeButton, RoundBadgeButton, kJoinExtraSmall, kNoSpecs)
+    X(KaRoundButton, RoundButton, kPrimaryNormal, kRoundButtonEditors)                                       \
+    X(KaPillButton, PillButton, kPrimaryNormal, kPillButtonEditors)                                          \
+    X(KaIconButton, IconButton, kIconTypeNone, kNoEditors)                                                   \
+    X(KaDualComboButton, DualComboButton, kDualComboStyle, kNoEditors)                                       \
+    X(KaDualIconButton, DualIconButton, kDualIconStyle, kNoEditors)                                          \
+    X(KaEmojiPushButton, EmojiPushButton, kText, kNoEditors)                                                 \
+    X(KaTextField, TextField, kTextFieldStyle, kNoEditors)                                                   \
+    X(KaTextFieldWithHint, TextFieldWithHint, kTextFieldStyle, kNoEditors)                                   \
+    X(KaPinTextField, PinTextField, kTextFieldStyle, kNoEditors)                                             \
+    X(KaLabel, Label, kText, kNoEditors)                                                                     \
+    X(KaEmojiLabel, EmojiLabel, kText, kNoEditors)                                                           \
+    X(KaAnnounceLabel, AnnounceLabel, kText, kNoEditors)                                                     \
+    X(KaGifLabel, GifLabel, kText, kNoEditors)                                                               \
+    X(KaMultipleLinkLabel, MultipleLinkLabel, kText, kNoEditors)                                             \
+    X(KaSvgLabel, SvgLabel, kText, kNoEditors)                                                               \
+    X(KaCheckBox, CheckBox, kText, kNoEditors)                                                               \
+    X(KaRadioButton, RadioButton, kText, kNoEditors)                                                         \
+    X(KaComboBox, ComboBox, kText, kNoEditors)                                                               \
+    X(KaTabView, TabView, kWideGeometry, kNoEditors)                                                         \
+    X(KaAvatarView, AvatarView, kText, kNoEditors)                                                           \
+    X(KaDiscoverabilityWidget, DiscoverabilityWidget, kNoProperties, kNoEditors)                             \
+    X(KaRoundBadgeButton, RoundBadgeButton, kJoinExtraSmall, kNoEditors)
 
 // Plugins that exist but are not in the collection. Forms get these two by
 // promoting a QTextEdit or QTextBrowser instead: a promoted widget keeps
 // Designer's rich-text editor for its contents, which a custom widget of
 // our own would lose.
 #define KARVEX_DESIGNER_UNLISTED_WIDGETS(X)                                                                  \
-    X(KaTextEdit, TextEdit, kNoProperties, kNoSpecs)                                                         \
-    X(KaTextBrowser, TextBrowser, kNoProperties, kNoSpecs)
+    X(KaTextEdit, TextEdit, kNoProperties, kNoEditors)                                                       \
+    X(KaTextBrowser, TextBrowser, kNoProperties, kNoEditors)
 
 // What the plugins share: everything but the widget they create. The
 // description strings are static data owned by kaplugins.cpp.
@@ -58,18 +58,18 @@ public:
     QString codeTemplate() const override;
 
 protected:
-    KaPluginBase(const char* className, const char* objectName, const char* properties, const char* specs,
+    KaPluginBase(const char* className, const char* objectName, const char* properties, const char* editors,
                  QObject* parent);
 
 private:
     const char* m_className;
     const char* m_objectName;
     const char* m_properties;
-    const char* m_specs;
+    const char* m_editors;
     bool m_initialized = false;
 };
 
-#define KARVEX_DECLARE_DESIGNER_PLUGIN(Widget, ObjectName, Properties, Specs)                                \
+#define KARVEX_DECLARE_DESIGNER_PLUGIN(Widget, ObjectName, Properties, Editors)                              \
     class KaPlugin_##Widget final : public KaPluginBase {                                                    \
     public:                                                                                                  \
         explicit KaPlugin_##Widget(QObject* parent = nullptr);                                               \
