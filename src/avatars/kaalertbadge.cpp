@@ -3,7 +3,7 @@
 KaAlertBadge::KaAlertBadge(QWidget* parent)
     : KaButton(parent, new KaAlertBadgeConfig) {
     m_config = qobject_cast<KaAlertBadgeConfig*>(buttonConfig());
-    connect(this, &IKaButton::refreshConfig, this, &KaAlertBadge::refresh);
+    connectRefreshSlot();
     refresh();
 }
 

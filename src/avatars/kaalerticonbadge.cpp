@@ -17,7 +17,7 @@ KaAlertIconBadge::KaAlertIconBadge(QWidget* parent, KaBadgeEnum::Style style)
     : KaButton(parent, new KaAlertIconBadgeConfig) {
     m_config = qobject_cast<KaAlertIconBadgeConfig*>(buttonConfig());
     setSvgIconAlignment(BzEnum::AlignCenter);
-    connect(this, &IKaButton::refreshConfig, this, &KaAlertIconBadge::refresh);
+    connectRefreshSlot();
     refresh();
     if (m_config && m_config->style() == style)
         applyStyle();

@@ -23,7 +23,8 @@ public:
 Q_SIGNALS:
     void styleChanged(KaBadgeEnum::Style style);
 
-protected:
+protected Q_SLOTS:
+    // Connected to refreshConfig() by connectRefreshSlot().
     void refresh();
 
 private:

@@ -3,26 +3,61 @@
 #include <QDebug>
 #include <QStyleOption>
 
+#include <array>
+
+class BzColorSetData : public QSharedData {
+public:
+    QString name;
+    std::array<QColor, BzColorSet::StateCount> colors;
+};
+
 namespace {
 const char* const kStateNames[BzColorSet::StateCount] = {"normal",   "hovered", "pressed",
                                                          "disabled", "focused", "checked"};
 }
 
+BzColorSet::BzColorSet() = default;
+
 BzColorSet::BzColorSet(const QString& name, const QColor& all)
-    : m_name(name) {
-    m_colors.fill(all);
+    : d(new BzColorSetData) {
+    d->name = name;
+    d->colors.fill(all);
 }
 
 BzColorSet::BzColorSet(const QString& name, const QColor& normal, const QColor& hovered,
                        const QColor& pressed, const QColor& disabled, const QColor& focused,
                        const QColor& checked)
-    : m_name(name)
-    , m_colors{{normal, hovered, pressed, disabled, focused, checked}} {}
+    : d(new BzColorSetData) {
+    d->name = name;
+    d->colors = {{normal, hovered, pressed, disabled, focused, checked}};
+}
+
+BzColorSet::BzColorSet(const BzColorSet& other) = default;
+BzColorSet::BzColorSet(BzColorSet&& other) noexcept = default;
+BzColorSet& BzColorSet::operator=(const BzColorSet& other) = default;
+BzColorSet& BzColorSet::operator=(BzColorSet&& other) noexcept = default;
+BzColorSet::~BzColorSet() = default;
+
+QString BzColorSet::name() const {
+    return d ? d->name : QString();
+}
+
+void BzColorSet::setName(const QString& name) {
+    if (!d)
+        d = new BzColorSetData;
+    d->name = name;
+}
+
+bool BzColorSet::isValid() const {
+    return d && !d->name.isEmpty();
+}
 
 QColor BzColorSet::color(State state) const {
+    if (!d)
+        return QColor();
     if (state < Normal || state >= StateCount)
-        return m_colors[Normal];
-    return m_colors[state];
+        return d->colors[Normal];
+    return d->colors[state];
 }
 
 void BzColorSet::setColor(State state, const QColor& color) {
@@ -30,7 +65,9 @@ void BzColorSet::setColor(State state, const QColor& color) {
         qWarning("BzColorSet::setColor: state %d is out of range", int(state));
         return;
     }
-    m_colors[state] = color;
+    if (!d)
+        d = new BzColorSetData;
+    d->colors[state] = color;
 }
 
 BzColorSet::State BzColorSet::stateFor(QStyle::State state) const {
@@ -40,7 +77,7 @@ BzColorSet::State BzColorSet::stateFor(QStyle::State state) const {
         return Pressed;
     if (state & QStyle::State_MouseOver)
         return Hovered;
-    if ((state & QStyle::State_HasFocus) && m_colors[Focused] != m_colors[Normal])
+    if ((state & QStyle::State_HasFocus) && d && d->colors[Focused] != d->colors[Normal])
         return Focused;
     if (state & (QStyle::State_Selected | QStyle::State_On))
         return Checked;
@@ -66,7 +103,15 @@ BzColorSet::State BzColorSet::stateFromName(const QString& name) {
 }
 
 bool BzColorSet::operator==(const BzColorSet& other) const {
-    return m_name == other.m_name && m_colors == other.m_colors;
+    if (d == other.d)
+        return true;
+    if (name() != other.name())
+        return false;
+    for (int i = 0; i < StateCount; ++i) {
+        if (color(State(i)) != other.color(State(i)))
+            return false;
+    }
+    return true;
 }
 
 QDebug operator<<(QDebug debug, const BzColorSet& set) {

@@ -4,38 +4,44 @@
 
 #include <QColor>
 #include <QMetaType>
+#include <QSharedDataPointer>
 #include <QString>
 #include <QStyle>
 
-#include <array>
-
 class QStyleOption;
+class BzColorSetData;
 
 // A named colour set: one colour for each interaction state of a control.
-// Value type, cheap to copy; resolved once per theme or configuration change.
+// Value type, implicitly shared: a widget's copy of a theme's set is one
+// pointer, so resolved sets cost nothing per widget.
 class BRISEL_EXPORT BzColorSet {
 public:
     // Order matters: it is the order of the six colours in theme files.
     enum State : int { Normal = 0, Hovered, Pressed, Disabled, Focused, Checked, StateCount };
 
-    BzColorSet() = default;
+    BzColorSet();
     explicit BzColorSet(const QString& name, const QColor& all = QColor());
     BzColorSet(const QString& name, const QColor& normal, const QColor& hovered, const QColor& pressed,
                const QColor& disabled, const QColor& focused, const QColor& checked);
+    BzColorSet(const BzColorSet& other);
+    BzColorSet(BzColorSet&& other) noexcept;
+    BzColorSet& operator=(const BzColorSet& other);
+    BzColorSet& operator=(BzColorSet&& other) noexcept;
+    ~BzColorSet();
 
-    QString name() const { return m_name; }
-    void setName(const QString& name) { m_name = name; }
-    bool isValid() const { return !m_name.isEmpty(); }
+    QString name() const;
+    void setName(const QString& name);
+    bool isValid() const;
 
     QColor color(State state) const;
     void setColor(State state, const QColor& color);
 
-    QColor normal() const { return m_colors[Normal]; }
-    QColor hovered() const { return m_colors[Hovered]; }
-    QColor pressed() const { return m_colors[Pressed]; }
-    QColor disabled() const { return m_colors[Disabled]; }
-    QColor focused() const { return m_colors[Focused]; }
-    QColor checked() const { return m_colors[Checked]; }
+    QColor normal() const { return color(Normal); }
+    QColor hovered() const { return color(Hovered); }
+    QColor pressed() const { return color(Pressed); }
+    QColor disabled() const { return color(Disabled); }
+    QColor focused() const { return color(Focused); }
+    QColor checked() const { return color(Checked); }
 
     // The state whose colour a control in `state` shows: not enabled gives
     // Disabled, sunken Pressed, mouse over Hovered, focus Focused (only when
@@ -53,8 +59,8 @@ public:
     bool operator!=(const BzColorSet& other) const { return !(*this == other); }
 
 private:
-    QString m_name;
-    std::array<QColor, StateCount> m_colors;
+    // Null for a default-constructed set: no name, invalid colours.
+    QSharedDataPointer<BzColorSetData> d;
 };
 
 Q_DECLARE_METATYPE(BzColorSet)

@@ -7,6 +7,8 @@
 #include <QtGlobal>
 
 #include <cmath>
+#include <map>
+#include <utility>
 
 namespace {
 
@@ -42,13 +44,21 @@ int clampedToken(int token) {
 
 } // namespace
 
-BzFont::BzFont(int token, bool scaled)
-    : QFont(family()) {
+BzFont::BzFont(int token, bool scaled) {
     m_token = clampedToken(token);
     // Without a manager nobody can have changed the scale from 1.
     const double scale = (scaled && BzFontManager::exists()) ? BzFontManager::instance()->textScale() : 1.0;
-    setPixelSize(scaledPixelSizeOf(m_token, scale));
-    setWeight(kTokenStyles[m_token].weight);
+    // One font per token and scale, built once: every copy shares it, so a
+    // widget holding a token's font costs no font data of its own.
+    static std::map<std::pair<int, double>, QFont> built;
+    auto it = built.find({m_token, scale});
+    if (it == built.end()) {
+        QFont font(family());
+        font.setPixelSize(scaledPixelSizeOf(m_token, scale));
+        font.setWeight(kTokenStyles[m_token].weight);
+        it = built.emplace(std::make_pair(m_token, scale), font).first;
+    }
+    QFont::operator=(it->second);
 }
 
 int BzFont::pixelSizeOf(int token) {

@@ -3,6 +3,7 @@
 #include "bzbuttonpainter_p.h"
 #include "bzscaledfont.h"
 #include "bzsheetreader_p.h"
+#include "bzstatictextcache_p.h"
 #include "bzthememanager.h"
 #include "bzthemeutils.h"
 #include "bzwidgettheme_p.h"
@@ -17,7 +18,6 @@
 
 namespace {
 
-const char kFocusRadiusProperty[] = "focusBorderRadius";
 // Room above and below the content in sizeHint(); configurations set a fixed
 // height anyway.
 constexpr int kVerticalMargin = 4;
@@ -138,7 +138,7 @@ void BzPushButton::setTextFormat(Qt::TextFormat format) {
     invalidateTextCache();
     updateGeometry();
     update();
-    Q_EMIT textFormatChanged();
+    basePropertyChanged("textFormat");
 }
 
 void BzPushButton::setFocusRectColorSet(const QString& name) {
@@ -147,7 +147,7 @@ void BzPushButton::setFocusRectColorSet(const QString& name) {
     m_focusRectSetName = name;
     m_focusRectSet = resolveColorSet(name);
     update();
-    Q_EMIT focusRectColorSetChanged();
+    basePropertyChanged("focusRectColorSet");
 }
 
 void BzPushButton::setTextHorAlign(BzEnum::HorAlign align) {
@@ -159,7 +159,7 @@ void BzPushButton::setTextHorAlign(BzEnum::HorAlign align) {
         return;
     m_textHorAlign = align;
     update();
-    Q_EMIT textHorAlignChanged();
+    basePropertyChanged("textHorAlign");
 }
 
 void BzPushButton::setTextLeftPadding(int padding) {
@@ -169,7 +169,7 @@ void BzPushButton::setTextLeftPadding(int padding) {
     m_textLeftPadding = padding;
     updateGeometry();
     update();
-    Q_EMIT textLeftPaddingChanged();
+    basePropertyChanged("textLeftPadding");
 }
 
 void BzPushButton::setTextRightPadding(int padding) {
@@ -179,7 +179,7 @@ void BzPushButton::setTextRightPadding(int padding) {
     m_textRightPadding = padding;
     updateGeometry();
     update();
-    Q_EMIT textRightPaddingChanged();
+    basePropertyChanged("textRightPadding");
 }
 
 void BzPushButton::setElideMode(Qt::TextElideMode mode) {
@@ -189,7 +189,7 @@ void BzPushButton::setElideMode(Qt::TextElideMode mode) {
     invalidateTextCache();
     updateGeometry();
     update();
-    Q_EMIT elideModeChanged();
+    basePropertyChanged("elideMode");
 }
 
 void BzPushButton::setElidePadding(int padding) {
@@ -199,7 +199,7 @@ void BzPushButton::setElidePadding(int padding) {
     m_elidePadding = padding;
     invalidateTextCache();
     update();
-    Q_EMIT elidePaddingChanged();
+    basePropertyChanged("elidePadding");
 }
 
 void BzPushButton::setFontToken(int token, bool scaled) {
@@ -224,7 +224,7 @@ void BzPushButton::setFontType(FontManagerEnum::FontType type) {
         return;
     m_fontType = type;
     applyFont();
-    Q_EMIT fontTypeChanged();
+    basePropertyChanged("fontType");
 }
 
 void BzPushButton::applyFont() {
@@ -252,7 +252,7 @@ void BzPushButton::setAcceleratorType(int type) {
         return;
     m_acceleratorType = type;
     update();
-    Q_EMIT acceleratorTypeChanged();
+    basePropertyChanged("acceleratorType");
 }
 
 void BzPushButton::setInnerMetric(int metric) {
@@ -260,7 +260,7 @@ void BzPushButton::setInnerMetric(int metric) {
         return;
     m_innerMetric = metric;
     update();
-    Q_EMIT innerMetricChanged();
+    basePropertyChanged("innerMetric");
 }
 
 void BzPushButton::setLayoutMode(int mode) {
@@ -269,7 +269,7 @@ void BzPushButton::setLayoutMode(int mode) {
     m_layoutMode = mode;
     updateGeometry();
     update();
-    Q_EMIT layoutModeChanged();
+    basePropertyChanged("layoutMode");
 }
 
 qreal BzPushButton::borderRadius() const {
@@ -278,10 +278,21 @@ qreal BzPushButton::borderRadius() const {
 }
 
 void BzPushButton::updateFocusRadius() {
-    const qreal radius = borderRadius();
-    const QVariant current = property(kFocusRadiusProperty);
-    if (!current.isValid() || current.toReal() != radius)
-        setProperty(kFocusRadiusProperty, radius);
+    if (!m_focusRadiusSet)
+        m_focusRadius = borderRadius();
+}
+
+void BzPushButton::setFocusBorderRadius(qreal radius) {
+    // From now on the theme's corner radius no longer replaces it.
+    m_focusRadiusSet = true;
+    if (m_focusRadius == radius)
+        return;
+    m_focusRadius = radius;
+    basePropertyChanged("focusBorderRadius");
+}
+
+void BzPushButton::basePropertyChanged(const char* property) {
+    Q_UNUSED(property)
 }
 
 bool BzPushButton::isRichText() const {
@@ -345,7 +356,6 @@ void BzPushButton::invalidateTextCache() {
     m_textCached = false;
     m_layoutInput.reset();
     m_fitRoom = -1;
-    m_staticText.reset();
 }
 
 QSize BzPushButton::textSize() const {
@@ -514,22 +524,13 @@ void BzPushButton::paintEvent(QPaintEvent*) {
             if (fits && !g.shownText.contains(QLatin1Char('&'))) {
                 // Same placement as drawText() centring one line, without
                 // shaping the text again on every paint.
-                if (!m_staticText || m_staticText->text() != g.shownText ||
-                    m_staticText->textOption().textDirection() != layoutDirection()) {
-                    m_staticText.reset(new QStaticText(g.shownText));
-                    m_staticText->setTextFormat(Qt::PlainText);
-                    QTextOption option;
-                    option.setWrapMode(QTextOption::NoWrap);
-                    option.setTextDirection(layoutDirection());
-                    m_staticText->setTextOption(option);
-                    m_staticText->prepare(QTransform(), font());
-                }
+                const QStaticText& prepared = BzStaticTextCache::get(g.shownText, font(), layoutDirection());
                 const QFontMetricsF fm(font());
-                const qreal w = m_staticText->size().width();
+                const qreal w = prepared.size().width();
                 const qreal h = fm.ascent() + fm.descent();
                 painter.drawStaticText(
                     QPointF(g.text.x() + (g.text.width() - w) / 2, g.text.y() + (g.text.height() - h) / 2),
-                    *m_staticText);
+                    prepared);
             } else {
                 const Qt::Alignment horizontal =
                     fits ? Qt::AlignHCenter
@@ -573,7 +574,6 @@ void BzPushButton::changeEvent(QEvent* event) {
         updatePadding();
         break;
     case QEvent::LayoutDirectionChange:
-        m_staticText.reset();
         update();
         break;
     case QEvent::FontChange:

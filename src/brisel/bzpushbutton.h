@@ -17,7 +17,6 @@
 class BzScaledFont;
 struct BzButtonLayoutInput;
 class BzWidgetTheme;
-class QStaticText;
 class QTextDocument;
 
 // The base layer's push button. It paints itself from the colour sets of its
@@ -58,23 +57,21 @@ class BRISEL_EXPORT BzPushButton : public QPushButton {
     // Writing "css" always re-resolves it against the current theme, even
     // with the same text: that is how a theme refresh reaches the button.
     Q_PROPERTY(QString css READ getCSS WRITE setCSS NOTIFY cssChanged)
-    Q_PROPERTY(Qt::TextFormat textFormat READ textFormat WRITE setTextFormat NOTIFY textFormatChanged)
-    Q_PROPERTY(QString focusRectColorSet READ focusRectColorSet WRITE setFocusRectColorSet NOTIFY
-                   focusRectColorSetChanged)
-    Q_PROPERTY(
-        BzEnum::HorAlign textHorAlign READ textHorAlign WRITE setTextHorAlign NOTIFY textHorAlignChanged)
-    Q_PROPERTY(
-        int textLeftPadding READ textLeftPadding WRITE setTextLeftPadding NOTIFY textLeftPaddingChanged)
-    Q_PROPERTY(
-        int textRightPadding READ textRightPadding WRITE setTextRightPadding NOTIFY textRightPaddingChanged)
-    Q_PROPERTY(Qt::TextElideMode elideMode READ elideMode WRITE setElideMode NOTIFY elideModeChanged)
-    Q_PROPERTY(int elidePadding READ elidePadding WRITE setElidePadding NOTIFY elidePaddingChanged)
+    Q_PROPERTY(Qt::TextFormat textFormat READ textFormat WRITE setTextFormat)
+    Q_PROPERTY(QString focusRectColorSet READ focusRectColorSet WRITE setFocusRectColorSet)
+    Q_PROPERTY(BzEnum::HorAlign textHorAlign READ textHorAlign WRITE setTextHorAlign)
+    Q_PROPERTY(int textLeftPadding READ textLeftPadding WRITE setTextLeftPadding)
+    Q_PROPERTY(int textRightPadding READ textRightPadding WRITE setTextRightPadding)
+    Q_PROPERTY(Qt::TextElideMode elideMode READ elideMode WRITE setElideMode)
+    Q_PROPERTY(int elidePadding READ elidePadding WRITE setElidePadding)
     Q_PROPERTY(BzFont::Token fontToken READ fontToken WRITE setFontToken NOTIFY fontTokenChanged)
-    Q_PROPERTY(FontManagerEnum::FontType fontType READ fontType WRITE setFontType NOTIFY fontTypeChanged)
-    Q_PROPERTY(
-        int acceleratorType READ getAcceleratorType WRITE setAcceleratorType NOTIFY acceleratorTypeChanged)
-    Q_PROPERTY(int innerMetric READ innerMetric WRITE setInnerMetric NOTIFY innerMetricChanged)
-    Q_PROPERTY(int layoutMode READ layoutMode WRITE setLayoutMode NOTIFY layoutModeChanged)
+    Q_PROPERTY(FontManagerEnum::FontType fontType READ fontType WRITE setFontType)
+    Q_PROPERTY(int acceleratorType READ getAcceleratorType WRITE setAcceleratorType)
+    Q_PROPERTY(int innerMetric READ innerMetric WRITE setInnerMetric)
+    Q_PROPERTY(int layoutMode READ layoutMode WRITE setLayoutMode)
+    // Read by the focus style. Declared rather than dynamic: a dynamic
+    // property would cost every button its own property storage.
+    Q_PROPERTY(qreal focusBorderRadius READ focusBorderRadius WRITE setFocusBorderRadius)
 
 public:
     enum AcceleratorType { NoAccelerator = 0, MnemonicAccelerator = 1, AlwaysUnderlined = 2 };
@@ -141,23 +138,22 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+    // The radius of the keyboard focus ring (the focus style reads the
+    // property). Until set, the frame's corner radius.
+    qreal focusBorderRadius() const { return m_focusRadius; }
+    void setFocusBorderRadius(qreal radius);
+
 public Q_SLOTS:
     virtual void onThemeChanged();
 
 Q_SIGNALS:
+    // The base buttons declare only these two change signals. Every signal
+    // declared here raises the index of a subclass's signals, and Qt sizes
+    // the table of a connected sender by that index: a subclass connecting
+    // one of its own signals would pay for all of ours in every button.
+    // Changes of the other properties reach basePropertyChanged().
     void cssChanged();
-    void textFormatChanged();
-    void focusRectColorSetChanged();
-    void textHorAlignChanged();
-    void textLeftPaddingChanged();
-    void textRightPaddingChanged();
-    void elideModeChanged();
-    void elidePaddingChanged();
     void fontTokenChanged();
-    void fontTypeChanged();
-    void acceleratorTypeChanged();
-    void innerMetricChanged();
-    void layoutModeChanged();
 
 protected:
     // What a subclass shows beside the text; the plain button shows nothing.
@@ -191,6 +187,10 @@ protected:
     BzColorSet resolveColorSet(const QString& name) const;
     // Repaints unless a theme refresh batch repaints whole windows anyway.
     void requestUpdate();
+    // After a property other than "css" and "fontToken" took a new value,
+    // with the property's name. A subclass that declares change signals for
+    // these properties emits them here.
+    virtual void basePropertyChanged(const char* property);
 
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -227,6 +227,8 @@ private:
     int m_acceleratorType = NoAccelerator;
     int m_innerMetric = 0;
     int m_layoutMode = 0;
+    qreal m_focusRadius = 0;
+    bool m_focusRadiusSet = false;
     // Layout of the last paint, reused while its input is unchanged.
     mutable std::unique_ptr<BzButtonLayoutInput> m_layoutInput;
     mutable Geometry m_geometry;
@@ -242,7 +244,6 @@ private:
     mutable int m_fitRoom = -1;
     mutable QString m_fitText;
     mutable int m_fitWidth = 0;
-    mutable std::unique_ptr<QStaticText> m_staticText;
     mutable std::unique_ptr<QTextDocument> m_document;
     mutable QString m_documentSource;
     mutable int m_documentFormat = -1;

@@ -35,7 +35,7 @@ void BzSvgAnchorButton::setAnchorSvgOn(const QString& nameOrPath) {
     m_onValid = BzButtonPainter::iconAvailable(nameOrPath);
     updateGeometry();
     update();
-    Q_EMIT anchorSvgOnChanged();
+    basePropertyChanged("anchorSvgOn");
 }
 
 void BzSvgAnchorButton::setAnchorSvgOff(const QString& nameOrPath) {
@@ -45,7 +45,7 @@ void BzSvgAnchorButton::setAnchorSvgOff(const QString& nameOrPath) {
     m_offValid = BzButtonPainter::iconAvailable(nameOrPath);
     updateGeometry();
     update();
-    Q_EMIT anchorSvgOffChanged();
+    basePropertyChanged("anchorSvgOff");
 }
 
 void BzSvgAnchorButton::setAnchorIconSize(const QSize& size) {
@@ -59,7 +59,7 @@ void BzSvgAnchorButton::setAnchorIconSize(const QSize& size) {
     m_size = bounded;
     updateGeometry();
     update();
-    Q_EMIT anchorIconSizeChanged();
+    basePropertyChanged("anchorIconSize");
 }
 
 void BzSvgAnchorButton::setAnchorSvgColorSet(const QString& name) {
@@ -68,7 +68,7 @@ void BzSvgAnchorButton::setAnchorSvgColorSet(const QString& name) {
     m_setName = name;
     m_set = resolveColorSet(name);
     update();
-    Q_EMIT anchorSvgColorSetChanged();
+    basePropertyChanged("anchorSvgColorSet");
 }
 
 void BzSvgAnchorButton::setAnchorPadding(int padding) {
@@ -78,7 +78,7 @@ void BzSvgAnchorButton::setAnchorPadding(int padding) {
     m_padding = padding;
     updateGeometry();
     update();
-    Q_EMIT anchorPaddingChanged();
+    basePropertyChanged("anchorPadding");
 }
 
 void BzSvgAnchorButton::setAnchorSvgOffset(const QPoint& offset) {
@@ -86,7 +86,7 @@ void BzSvgAnchorButton::setAnchorSvgOffset(const QPoint& offset) {
         return;
     m_offset = offset;
     update();
-    Q_EMIT anchorSvgOffsetChanged();
+    basePropertyChanged("anchorSvgOffset");
 }
 
 void BzSvgAnchorButton::setLeftAnchor(bool leading) {
@@ -94,7 +94,7 @@ void BzSvgAnchorButton::setLeftAnchor(bool leading) {
         return;
     m_leading = leading;
     update();
-    Q_EMIT isLeftAnchorChanged();
+    basePropertyChanged("isLeftAnchor");
 }
 
 void BzSvgAnchorButton::setAlignAnchorIconToText(bool follow) {
@@ -102,7 +102,7 @@ void BzSvgAnchorButton::setAlignAnchorIconToText(bool follow) {
         return;
     m_followsText = follow;
     update();
-    Q_EMIT alignAnchorIconToTextChanged();
+    basePropertyChanged("alignAnchorIconToText");
 }
 
 void BzSvgAnchorButton::setAnchorIconVisible(bool visible) {
@@ -111,7 +111,7 @@ void BzSvgAnchorButton::setAnchorIconVisible(bool visible) {
     m_visible = visible;
     updateGeometry();
     update();
-    Q_EMIT anchorIconVisibleChanged();
+    basePropertyChanged("anchorIconVisible");
 }
 
 void BzSvgAnchorButton::setAnchorIconSpacing(int spacing) {
@@ -121,7 +121,7 @@ void BzSvgAnchorButton::setAnchorIconSpacing(int spacing) {
     m_spacing = spacing;
     updateGeometry();
     update();
-    Q_EMIT anchorIconSpacingChanged();
+    basePropertyChanged("anchorIconSpacing");
 }
 
 bool BzSvgAnchorButton::hasAnchor() const {

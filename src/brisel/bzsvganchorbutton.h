@@ -16,21 +16,16 @@
 // anchorSvgOffset's x included.
 class BRISEL_EXPORT BzSvgAnchorButton : public BzSvgPushButton {
     Q_OBJECT
-    Q_PROPERTY(QString anchorSvgOn READ anchorSvgOn WRITE setAnchorSvgOn NOTIFY anchorSvgOnChanged)
-    Q_PROPERTY(QString anchorSvgOff READ anchorSvgOff WRITE setAnchorSvgOff NOTIFY anchorSvgOffChanged)
-    Q_PROPERTY(QSize anchorIconSize READ anchorIconSize WRITE setAnchorIconSize NOTIFY anchorIconSizeChanged)
-    Q_PROPERTY(QString anchorSvgColorSet READ anchorSvgColorSet WRITE setAnchorSvgColorSet NOTIFY
-                   anchorSvgColorSetChanged)
-    Q_PROPERTY(int anchorPadding READ anchorPadding WRITE setAnchorPadding NOTIFY anchorPaddingChanged)
-    Q_PROPERTY(
-        QPoint anchorSvgOffset READ anchorSvgOffset WRITE setAnchorSvgOffset NOTIFY anchorSvgOffsetChanged)
-    Q_PROPERTY(bool isLeftAnchor READ isLeftAnchor WRITE setLeftAnchor NOTIFY isLeftAnchorChanged)
-    Q_PROPERTY(bool alignAnchorIconToText READ alignAnchorIconToText WRITE setAlignAnchorIconToText NOTIFY
-                   alignAnchorIconToTextChanged)
-    Q_PROPERTY(bool anchorIconVisible READ isAnchorIconVisible WRITE setAnchorIconVisible NOTIFY
-                   anchorIconVisibleChanged)
-    Q_PROPERTY(int anchorIconSpacing READ anchorIconSpacing WRITE setAnchorIconSpacing NOTIFY
-                   anchorIconSpacingChanged)
+    Q_PROPERTY(QString anchorSvgOn READ anchorSvgOn WRITE setAnchorSvgOn)
+    Q_PROPERTY(QString anchorSvgOff READ anchorSvgOff WRITE setAnchorSvgOff)
+    Q_PROPERTY(QSize anchorIconSize READ anchorIconSize WRITE setAnchorIconSize)
+    Q_PROPERTY(QString anchorSvgColorSet READ anchorSvgColorSet WRITE setAnchorSvgColorSet)
+    Q_PROPERTY(int anchorPadding READ anchorPadding WRITE setAnchorPadding)
+    Q_PROPERTY(QPoint anchorSvgOffset READ anchorSvgOffset WRITE setAnchorSvgOffset)
+    Q_PROPERTY(bool isLeftAnchor READ isLeftAnchor WRITE setLeftAnchor)
+    Q_PROPERTY(bool alignAnchorIconToText READ alignAnchorIconToText WRITE setAlignAnchorIconToText)
+    Q_PROPERTY(bool anchorIconVisible READ isAnchorIconVisible WRITE setAnchorIconVisible)
+    Q_PROPERTY(int anchorIconSpacing READ anchorIconSpacing WRITE setAnchorIconSpacing)
 
 public:
     explicit BzSvgAnchorButton(QWidget* parent = nullptr);
@@ -72,17 +67,6 @@ public:
 Q_SIGNALS:
     // A left-button press and release both inside anchorIconRect().
     void anchorClicked();
-
-    void anchorSvgOnChanged();
-    void anchorSvgOffChanged();
-    void anchorIconSizeChanged();
-    void anchorSvgColorSetChanged();
-    void anchorPaddingChanged();
-    void anchorSvgOffsetChanged();
-    void isLeftAnchorChanged();
-    void alignAnchorIconToTextChanged();
-    void anchorIconVisibleChanged();
-    void anchorIconSpacingChanged();
 
 protected:
     void decorations(Decorations* out) const override;

@@ -44,7 +44,7 @@ void BzSvgPushButton::setSvgIcon(const QString& nameOrPath) {
     m_iconValid = BzButtonPainter::iconAvailable(nameOrPath);
     updateGeometry();
     update();
-    Q_EMIT svgIconChanged();
+    basePropertyChanged("svgIcon");
 }
 
 void BzSvgPushButton::setSvgIconChecked(const QString& nameOrPath) {
@@ -54,7 +54,7 @@ void BzSvgPushButton::setSvgIconChecked(const QString& nameOrPath) {
     m_iconCheckedValid = BzButtonPainter::iconAvailable(nameOrPath);
     updateGeometry();
     update();
-    Q_EMIT svgIconCheckedChanged();
+    basePropertyChanged("svgIconChecked");
 }
 
 void BzSvgPushButton::setSvgIconColorSet(const QString& name) {
@@ -63,7 +63,7 @@ void BzSvgPushButton::setSvgIconColorSet(const QString& name) {
     m_iconSetName = name;
     m_iconSet = resolveColorSet(name);
     update();
-    Q_EMIT svgIconColorSetChanged();
+    basePropertyChanged("svgIconColorSet");
 }
 
 void BzSvgPushButton::setSvgIconSize(const QSize& size) {
@@ -73,7 +73,7 @@ void BzSvgPushButton::setSvgIconSize(const QSize& size) {
     m_iconSize = bounded;
     updateGeometry();
     update();
-    Q_EMIT svgIconSizeChanged();
+    basePropertyChanged("svgIconSize");
 }
 
 void BzSvgPushButton::setSvgIconVisible(bool visible) {
@@ -82,7 +82,7 @@ void BzSvgPushButton::setSvgIconVisible(bool visible) {
     m_iconVisible = visible;
     updateGeometry();
     update();
-    Q_EMIT svgIconVisibleChanged();
+    basePropertyChanged("svgIconVisible");
 }
 
 void BzSvgPushButton::setSvgIconAlignment(BzEnum::Alignment alignment) {
@@ -95,7 +95,7 @@ void BzSvgPushButton::setSvgIconAlignment(BzEnum::Alignment alignment) {
     m_alignment = alignment;
     updateGeometry();
     update();
-    Q_EMIT svgIconAlignmentChanged();
+    basePropertyChanged("svgIconAlignment");
 }
 
 void BzSvgPushButton::setSvgIconTopLeftPadding(const QPoint& padding) {
@@ -105,7 +105,7 @@ void BzSvgPushButton::setSvgIconTopLeftPadding(const QPoint& padding) {
     m_topLeftPadding = bounded;
     updateGeometry();
     update();
-    Q_EMIT svgIconTopLeftPaddingChanged();
+    basePropertyChanged("svgIconTopLeftPadding");
 }
 
 void BzSvgPushButton::setSvgIconBottomRightPadding(const QPoint& padding) {
@@ -115,7 +115,7 @@ void BzSvgPushButton::setSvgIconBottomRightPadding(const QPoint& padding) {
     m_bottomRightPadding = bounded;
     updateGeometry();
     update();
-    Q_EMIT svgIconBottomRightPaddingChanged();
+    basePropertyChanged("svgIconBottomRightPadding");
 }
 
 void BzSvgPushButton::setSvgIconSpacing(int spacing) {
@@ -125,34 +125,60 @@ void BzSvgPushButton::setSvgIconSpacing(int spacing) {
     m_spacing = spacing;
     updateGeometry();
     update();
-    Q_EMIT svgIconSpacingChanged();
+    basePropertyChanged("svgIconSpacing");
+}
+
+struct BzSvgPushButton::Inner {
+    QString icon;
+    QString setName;
+    BzColorSet set;
+    QSize size{16, 16};
+    bool valid = false;
+};
+
+BzSvgPushButton::Inner& BzSvgPushButton::inner() {
+    if (!m_inner)
+        m_inner.reset(new Inner);
+    return *m_inner;
+}
+
+QString BzSvgPushButton::innerSvgIcon() const {
+    return m_inner ? m_inner->icon : QString();
+}
+
+QString BzSvgPushButton::innerSvgIconColorSet() const {
+    return m_inner ? m_inner->setName : QString();
+}
+
+QSize BzSvgPushButton::innerSvgIconSize() const {
+    return m_inner ? m_inner->size : Inner().size;
 }
 
 void BzSvgPushButton::setInnerSvgIcon(const QString& nameOrPath) {
-    if (m_innerIcon == nameOrPath)
+    if (innerSvgIcon() == nameOrPath)
         return;
-    m_innerIcon = nameOrPath;
-    m_innerValid = BzButtonPainter::iconAvailable(nameOrPath);
+    inner().icon = nameOrPath;
+    m_inner->valid = BzButtonPainter::iconAvailable(nameOrPath);
     update();
-    Q_EMIT innerSvgIconChanged();
+    basePropertyChanged("innerSvgIcon");
 }
 
 void BzSvgPushButton::setInnerSvgIconColorSet(const QString& name) {
-    if (m_innerSetName == name)
+    if (innerSvgIconColorSet() == name)
         return;
-    m_innerSetName = name;
-    m_innerSet = resolveColorSet(name);
+    inner().setName = name;
+    m_inner->set = resolveColorSet(name);
     update();
-    Q_EMIT innerSvgIconColorSetChanged();
+    basePropertyChanged("innerSvgIconColorSet");
 }
 
 void BzSvgPushButton::setInnerSvgIconSize(const QSize& size) {
     const QSize bounded = nonNegative(size, "inner icon size");
-    if (m_innerSize == bounded)
+    if (innerSvgIconSize() == bounded)
         return;
-    m_innerSize = bounded;
+    inner().size = bounded;
     update();
-    Q_EMIT innerSvgIconSizeChanged();
+    basePropertyChanged("innerSvgIconSize");
 }
 
 QRect BzSvgPushButton::svgIconRect() const {
@@ -189,15 +215,16 @@ void BzSvgPushButton::paintDecorations(QPainter* painter, const Geometry& geomet
     const QString icon = currentIcon();
     if (!icon.isEmpty())
         BzButtonPainter::drawIcon(painter, icon, geometry.icon, stateColor(setOrText(m_iconSet), state));
-    if (m_innerValid && !m_innerSize.isEmpty()) {
-        const QRect box(QPoint((width() - m_innerSize.width()) / 2, (height() - m_innerSize.height()) / 2),
-                        m_innerSize);
-        BzButtonPainter::drawIcon(painter, m_innerIcon, box, stateColor(setOrText(m_innerSet), state));
+    if (m_inner && m_inner->valid && !m_inner->size.isEmpty()) {
+        const QSize size = m_inner->size;
+        const QRect box(QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size);
+        BzButtonPainter::drawIcon(painter, m_inner->icon, box, stateColor(setOrText(m_inner->set), state));
     }
 }
 
 void BzSvgPushButton::themeResolved() {
     BzPushButton::themeResolved();
     m_iconSet = resolveColorSet(m_iconSetName);
-    m_innerSet = resolveColorSet(m_innerSetName);
+    if (m_inner)
+        m_inner->set = resolveColorSet(m_inner->setName);
 }

@@ -6,30 +6,26 @@
 #include <QPoint>
 #include <QSize>
 
+#include <memory>
+
 // A push button with a leading SVG icon tinted with a colour set, and an
 // optional "inner" icon painted centred in the button (for buttons that show
 // an icon only). Icon colour sets default to the text colour set.
 class BRISEL_EXPORT BzSvgPushButton : public BzPushButton {
     Q_OBJECT
-    Q_PROPERTY(QString svgIcon READ svgIcon WRITE setSvgIcon NOTIFY svgIconChanged)
+    Q_PROPERTY(QString svgIcon READ svgIcon WRITE setSvgIcon)
+    Q_PROPERTY(QString svgIconChecked READ svgIconChecked WRITE setSvgIconChecked)
+    Q_PROPERTY(QString svgIconColorSet READ svgIconColorSet WRITE setSvgIconColorSet)
+    Q_PROPERTY(QSize svgIconSize READ svgIconSize WRITE setSvgIconSize)
+    Q_PROPERTY(bool svgIconVisible READ isSvgIconVisible WRITE setSvgIconVisible)
+    Q_PROPERTY(BzEnum::Alignment svgIconAlignment READ svgIconAlignment WRITE setSvgIconAlignment)
+    Q_PROPERTY(QPoint svgIconTopLeftPadding READ svgIconTopLeftPadding WRITE setSvgIconTopLeftPadding)
     Q_PROPERTY(
-        QString svgIconChecked READ svgIconChecked WRITE setSvgIconChecked NOTIFY svgIconCheckedChanged)
-    Q_PROPERTY(
-        QString svgIconColorSet READ svgIconColorSet WRITE setSvgIconColorSet NOTIFY svgIconColorSetChanged)
-    Q_PROPERTY(QSize svgIconSize READ svgIconSize WRITE setSvgIconSize NOTIFY svgIconSizeChanged)
-    Q_PROPERTY(bool svgIconVisible READ isSvgIconVisible WRITE setSvgIconVisible NOTIFY svgIconVisibleChanged)
-    Q_PROPERTY(BzEnum::Alignment svgIconAlignment READ svgIconAlignment WRITE setSvgIconAlignment NOTIFY
-                   svgIconAlignmentChanged)
-    Q_PROPERTY(QPoint svgIconTopLeftPadding READ svgIconTopLeftPadding WRITE setSvgIconTopLeftPadding NOTIFY
-                   svgIconTopLeftPaddingChanged)
-    Q_PROPERTY(QPoint svgIconBottomRightPadding READ svgIconBottomRightPadding WRITE
-                   setSvgIconBottomRightPadding NOTIFY svgIconBottomRightPaddingChanged)
-    Q_PROPERTY(int svgIconSpacing READ svgIconSpacing WRITE setSvgIconSpacing NOTIFY svgIconSpacingChanged)
-    Q_PROPERTY(QString innerSvgIcon READ innerSvgIcon WRITE setInnerSvgIcon NOTIFY innerSvgIconChanged)
-    Q_PROPERTY(QString innerSvgIconColorSet READ innerSvgIconColorSet WRITE setInnerSvgIconColorSet NOTIFY
-                   innerSvgIconColorSetChanged)
-    Q_PROPERTY(
-        QSize innerSvgIconSize READ innerSvgIconSize WRITE setInnerSvgIconSize NOTIFY innerSvgIconSizeChanged)
+        QPoint svgIconBottomRightPadding READ svgIconBottomRightPadding WRITE setSvgIconBottomRightPadding)
+    Q_PROPERTY(int svgIconSpacing READ svgIconSpacing WRITE setSvgIconSpacing)
+    Q_PROPERTY(QString innerSvgIcon READ innerSvgIcon WRITE setInnerSvgIcon)
+    Q_PROPERTY(QString innerSvgIconColorSet READ innerSvgIconColorSet WRITE setInnerSvgIconColorSet)
+    Q_PROPERTY(QSize innerSvgIconSize READ innerSvgIconSize WRITE setInnerSvgIconSize)
 
 public:
     explicit BzSvgPushButton(QWidget* parent = nullptr);
@@ -63,30 +59,18 @@ public:
     int svgIconSpacing() const { return m_spacing; }
     void setSvgIconSpacing(int spacing);
 
-    QString innerSvgIcon() const { return m_innerIcon; }
+    QString innerSvgIcon() const;
     void setInnerSvgIcon(const QString& nameOrPath);
     // Empty (the default): the text colour set.
-    QString innerSvgIconColorSet() const { return m_innerSetName; }
+    QString innerSvgIconColorSet() const;
     void setInnerSvgIconColorSet(const QString& name);
-    QSize innerSvgIconSize() const { return m_innerSize; }
+    QSize innerSvgIconSize() const;
     void setInnerSvgIconSize(const QSize& size);
 
     // Where the leading icon is painted at the current size; empty when none.
     QRect svgIconRect() const;
 
 Q_SIGNALS:
-    void svgIconChanged();
-    void svgIconCheckedChanged();
-    void svgIconColorSetChanged();
-    void svgIconSizeChanged();
-    void svgIconVisibleChanged();
-    void svgIconAlignmentChanged();
-    void svgIconTopLeftPaddingChanged();
-    void svgIconBottomRightPaddingChanged();
-    void svgIconSpacingChanged();
-    void innerSvgIconChanged();
-    void innerSvgIconColorSetChanged();
-    void innerSvgIconSizeChanged();
 
 protected:
     void decorations(Decorations* out) const override;
@@ -103,7 +87,6 @@ private:
     QString m_iconChecked;
     bool m_iconValid = false;
     bool m_iconCheckedValid = false;
-    bool m_innerValid = false;
     QString m_iconSetName;
     BzColorSet m_iconSet;
     QSize m_iconSize{16, 16};
@@ -112,8 +95,8 @@ private:
     QPoint m_topLeftPadding;
     QPoint m_bottomRightPadding;
     int m_spacing = 6;
-    QString m_innerIcon;
-    QString m_innerSetName;
-    BzColorSet m_innerSet;
-    QSize m_innerSize{16, 16};
+    // The centred icon; most buttons never set one.
+    struct Inner;
+    Inner& inner();
+    std::unique_ptr<Inner> m_inner;
 };

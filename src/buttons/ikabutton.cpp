@@ -8,12 +8,12 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QEvent>
+#include <QMetaMethod>
+#include <QMetaProperty>
 #include <QPalette>
 #include <QShowEvent>
 
 namespace {
-
-const char kFocusRadiusProperty[] = "focusBorderRadius";
 
 // The menu cell of a dual button opens the dual button's menu.
 bool opensParentMenu(const IKaButton* b) {
@@ -117,12 +117,40 @@ IKaButton::IKaButton(QWidget* parent, IKaButtonConfig* config)
     if (!config)
         return;
     // Someone may change the configuration directly; that refreshes too.
-    connect(config, &IKaButtonConfig::configChanged, this, &IKaButton::onConfigChanged);
-    connect(config, &IKaButtonConfig::iconsChanged, this, &IKaButton::syncIcons);
+    if (config->m_owner)
+        qWarning("IKaButton: the configuration already belongs to another button; it now follows this one");
+    config->m_owner = this;
     syncIcons();
 }
 
-IKaButton::~IKaButton() = default;
+IKaButton::~IKaButton() {
+    if (m_config && m_config->m_owner == this)
+        m_config->m_owner = nullptr;
+}
+
+void IKaButton::connectRefreshSlot() {
+    static const QMetaMethod signal = QMetaMethod::fromSignal(&IKaButton::refreshConfig);
+    // Called from the concrete constructor: metaObject() is the concrete class.
+    const QMetaObject* meta = metaObject();
+    const int slot = meta->indexOfSlot("refresh()");
+    if (slot < 0) {
+        qWarning("%s: no refresh() slot to connect refreshConfig() to", meta->className());
+        return;
+    }
+    connect(this, signal, this, meta->method(slot));
+}
+
+void IKaButton::basePropertyChanged(const char* property) {
+    // The base button names the property; emit the change signal declared
+    // for it here, if any.
+    const QMetaObject* meta = metaObject();
+    const int index = meta->indexOfProperty(property);
+    if (index < 0)
+        return;
+    const QMetaMethod notify = meta->property(index).notifySignal();
+    if (notify.isValid())
+        notify.invoke(this, Qt::DirectConnection);
+}
 
 void IKaButton::onConfigChanged() {
     if (m_configWrites == 0)
@@ -276,12 +304,6 @@ void IKaButton::applyColors(const Config::Colors& colors, const QString& styleSh
     setCSS(record);
     setSvgIconColorSet(colors.iconColorSet);
     setAnchorSvgColorSet(colors.iconColorSet);
-}
-
-void IKaButton::setFocusRadius(qreal radius) {
-    const QVariant current = property(kFocusRadiusProperty);
-    if (!current.isValid() || current.toReal() != radius)
-        setProperty(kFocusRadiusProperty, radius);
 }
 
 void IKaButton::setDefaultAccessibleName(const QString& name) {

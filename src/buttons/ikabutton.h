@@ -65,6 +65,8 @@ class KARVEX_EXPORT IKaButton : public BzSvgAnchorButton {
     Q_PROPERTY(int elidePadding READ elidePadding WRITE setElidePadding NOTIFY elidePaddingChanged)
     Q_PROPERTY(BzFont::Token fontToken READ fontToken WRITE setFontToken NOTIFY fontTokenChanged)
     Q_PROPERTY(FontManagerEnum::FontType fontType READ fontType WRITE setFontType NOTIFY fontTypeChanged)
+    Q_PROPERTY(int innerMetric READ innerMetric WRITE setInnerMetric NOTIFY innerMetricChanged)
+    Q_PROPERTY(int layoutMode READ layoutMode WRITE setLayoutMode NOTIFY layoutModeChanged)
 
 public:
     using Config = IKaButtonConfig::Config;
@@ -109,6 +111,36 @@ Q_SIGNALS:
     void leftIconOnChanged();
     void rightIconChanged();
     void rightIconOnChanged();
+    // Change signals of the base button's properties declared above. They
+    // come after refreshConfig() so that its connection stays cheap.
+    void anchorSvgOnChanged();
+    void anchorSvgOffChanged();
+    void anchorIconSizeChanged();
+    void anchorSvgColorSetChanged();
+    void anchorPaddingChanged();
+    void anchorSvgOffsetChanged();
+    void isLeftAnchorChanged();
+    void alignAnchorIconToTextChanged();
+    void svgIconChanged();
+    void svgIconCheckedChanged();
+    void textFormatChanged();
+    void focusRectColorSetChanged();
+    void svgIconColorSetChanged();
+    void svgIconSizeChanged();
+    void svgIconAlignmentChanged();
+    void textHorAlignChanged();
+    void textLeftPaddingChanged();
+    void textRightPaddingChanged();
+    void svgIconTopLeftPaddingChanged();
+    void svgIconBottomRightPaddingChanged();
+    void innerSvgIconChanged();
+    void innerSvgIconColorSetChanged();
+    void innerSvgIconSizeChanged();
+    void elideModeChanged();
+    void elidePaddingChanged();
+    void fontTypeChanged();
+    void innerMetricChanged();
+    void layoutModeChanged();
 
 public Q_SLOTS:
     // Re-resolves the base button's colour sets, then re-fills the record,
@@ -125,8 +157,6 @@ protected:
     // `radius` for the corners (-1: a pill). An unchanged record costs
     // nothing: a theme switch has re-resolved it already through "css".
     void applyColors(const Config::Colors& colors, const QString& styleSheet, int radius = -1);
-    // Sets the focus ring radius the focus style reads.
-    void setFocusRadius(qreal radius);
     // For buttons without text: the accessible name to use unless the host
     // set one of its own with setAccessibleName().
     void setDefaultAccessibleName(const QString& name);
@@ -193,8 +223,18 @@ protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void basePropertyChanged(const char* property) override;
+
+    // Connects refreshConfig() to the concrete button's private slot
+    // refresh(); call it from the concrete constructor. The connection goes
+    // by method index: one to a member-function pointer would allocate a
+    // slot object in every button.
+    void connectRefreshSlot();
 
 private:
+    // The configuration calls these directly (it is owned by this button);
+    // two connections would cost every button a signal table on its config.
+    friend class IKaButtonConfig;
     void onConfigChanged();
     void syncIcons();
 

@@ -1,5 +1,7 @@
 #include "ikabuttonconfig.h"
 
+#include "ikabutton.h"
+
 #include <QSignalBlocker>
 
 IKaButtonConfig::IKaButtonConfig(QObject* parent)
@@ -8,6 +10,25 @@ IKaButtonConfig::IKaButtonConfig(QObject* parent)
 IKaButtonConfig::~IKaButtonConfig() = default;
 
 void IKaButtonConfig::setCustomValue(int) {}
+
+void IKaButtonConfig::notifyConfigChanged() {
+    // A blocked configuration is in the middle of a change that sends one
+    // notification at its end.
+    if (signalsBlocked())
+        return;
+    Q_EMIT configChanged();
+    if (m_owner)
+        m_owner->onConfigChanged();
+}
+
+void IKaButtonConfig::notifyIconsChanged() {
+    if (signalsBlocked())
+        return;
+    Q_EMIT iconsChanged();
+    if (m_owner)
+        m_owner->syncIcons();
+    notifyConfigChanged();
+}
 
 void IKaButtonConfig::setLeftIcon(const QString& path) {
     if (path == m_leftIcon)
@@ -18,16 +39,14 @@ void IKaButtonConfig::setLeftIcon(const QString& path) {
         const QSignalBlocker blocker(this);
         setHasLeftIcon(!m_leftIcon.isEmpty());
     }
-    Q_EMIT iconsChanged();
-    Q_EMIT configChanged();
+    notifyIconsChanged();
 }
 
 void IKaButtonConfig::setLeftIconOn(const QString& path) {
     if (path == m_leftIconOn)
         return;
     m_leftIconOn = path;
-    Q_EMIT iconsChanged();
-    Q_EMIT configChanged();
+    notifyIconsChanged();
 }
 
 void IKaButtonConfig::setRightIcon(const QString& path) {
@@ -35,21 +54,18 @@ void IKaButtonConfig::setRightIcon(const QString& path) {
         return;
     m_rightIcon = path;
     // Both states: a checked icon set earlier is overwritten on purpose.
-    m_anchorSvgOff = path;
-    m_anchorSvgOn = path;
+    m_anchorOnIsRightIconOn = false;
     {
         const QSignalBlocker blocker(this);
         setHasRightIcon(!m_rightIcon.isEmpty());
     }
-    Q_EMIT iconsChanged();
-    Q_EMIT configChanged();
+    notifyIconsChanged();
 }
 
 void IKaButtonConfig::setRightIconOn(const QString& path) {
     if (path == m_rightIconOn)
         return;
     m_rightIconOn = path;
-    m_anchorSvgOn = path;
-    Q_EMIT iconsChanged();
-    Q_EMIT configChanged();
+    m_anchorOnIsRightIconOn = true;
+    notifyIconsChanged();
 }

@@ -6,11 +6,14 @@
 #include <QObject>
 #include <QString>
 
+class IKaButton;
+
 // What every configuration-driven button, badge, tab item and dual-button
 // cell asks its configuration for. A configuration holds the fields that
 // decide the look, fills a fresh appearance record on request and keeps no
-// copy of the last one. It never touches a widget: the widget connects
-// configChanged() to its own refresh, fills a record and applies it.
+// copy of the last one. It never touches a widget's look: every change is
+// sent as configChanged() and handed to the owning button, which fills a
+// record and applies it.
 //
 // The configuration also holds the button's icon paths, so that the two
 // "on" paths follow their plain ones the same way for every button:
@@ -49,8 +52,8 @@ public:
     // What the button hands to its base button's icon setters.
     QString svgIcon() const { return m_leftIcon; }
     QString svgIconChecked() const { return m_leftIconOn; }
-    QString anchorSvgOff() const { return m_anchorSvgOff; }
-    QString anchorSvgOn() const { return m_anchorSvgOn; }
+    QString anchorSvgOff() const { return m_rightIcon; }
+    QString anchorSvgOn() const { return m_anchorOnIsRightIconOn ? m_rightIconOn : m_rightIcon; }
 
 Q_SIGNALS:
     // The record fillConfig() writes may differ now: fill and apply again.
@@ -58,6 +61,10 @@ Q_SIGNALS:
     void iconsChanged();
 
 protected:
+    // Sends configChanged() and has the owning button refresh. Subclasses
+    // call this after changing a field.
+    void notifyConfigChanged();
+
     // Setter plumbing: stores `value` in `field` and, on a change, sends
     // `changed(value)` (when given) and then configChanged(). Returns whether
     // the field changed.
@@ -65,7 +72,7 @@ protected:
         if (field == value)
             return false;
         field = value;
-        Q_EMIT configChanged();
+        notifyConfigChanged();
         return true;
     }
     template <typename Owner, typename T, typename Arg>
@@ -74,15 +81,20 @@ protected:
             return false;
         field = value;
         Q_EMIT(static_cast<Owner*>(this)->*changed)(value);
-        Q_EMIT configChanged();
+        notifyConfigChanged();
         return true;
     }
 
 private:
+    friend class IKaButton;
+    void notifyIconsChanged();
+
+    // The button built with this configuration (also its Qt parent).
+    IKaButton* m_owner = nullptr;
     QString m_leftIcon;
     QString m_leftIconOn;
     QString m_rightIcon;
     QString m_rightIconOn;
-    QString m_anchorSvgOff;
-    QString m_anchorSvgOn;
+    // Which of the two right icons was set last: that one shows while on.
+    bool m_anchorOnIsRightIconOn = false;
 };

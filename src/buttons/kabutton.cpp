@@ -4,13 +4,18 @@
 
 #include <QAction>
 #include <QMetaEnum>
+#include <QMetaMethod>
 
 KaButton::KaButton(QWidget* parent, IKaButtonConfig* config)
     : IKaButton(parent, config)
     , m_buttonConfig(qobject_cast<KaButtonConfig*>(config)) {
     if (config)
         config->setParent(this);
-    connect(this, &QAbstractButton::toggled, this, &KaButton::onToggled);
+    // By meta-method, not member pointer: no slot object in every button.
+    static const QMetaMethod toggled = QMetaMethod::fromSignal(&QAbstractButton::toggled);
+    static const QMetaMethod handler =
+        staticMetaObject.method(staticMetaObject.indexOfSlot("onToggled(bool)"));
+    connect(this, toggled, this, handler);
     setCheckable(false);
     Q_EMIT refreshConfig();
 }

@@ -64,10 +64,12 @@ Q_SIGNALS:
 protected:
     KaButton(QWidget* parent, IKaButtonConfig* config);
 
+private Q_SLOTS:
+    void onToggled(bool checked);
+
 private:
     void attachMenu(QMenu* menu);
     void popupMenu();
-    void onToggled(bool checked);
 
     QPointer<KaButtonConfig> m_buttonConfig;
     QPointer<QMenu> m_menu;

@@ -138,7 +138,7 @@ void KaButtonConfig::setCustomValue(int value) {
 void KaButtonConfig::setStyle(KaButtonEnum::Style style) {
     m_style = style;
     Q_EMIT styleChanged(style);
-    Q_EMIT configChanged();
+    notifyConfigChanged();
 }
 
 void KaButtonConfig::setSize(KaButtonEnum::Size size) {
@@ -155,7 +155,7 @@ void KaButtonConfig::setChecked(bool checked) {
         m_state = state;
         Q_EMIT stateChanged(state);
     }
-    Q_EMIT configChanged();
+    notifyConfigChanged();
 }
 
 void KaButtonConfig::setWidthSizePolicy(QSizePolicy::Policy policy) {
@@ -163,5 +163,5 @@ void KaButtonConfig::setWidthSizePolicy(QSizePolicy::Policy policy) {
         m_widthSizePolicy = policy;
         Q_EMIT widthSizePolicyChanged(policy);
     }
-    Q_EMIT configChanged();
+    notifyConfigChanged();
 }

@@ -17,7 +17,7 @@ KaDialpadButton::KaDialpadButton(const QString& character, QWidget* parent)
     connect(this, &QAbstractButton::pressed, this, &KaDialpadButton::onPressed);
     connect(this, &QAbstractButton::released, &m_longPress, &QTimer::stop);
     connect(this, &QAbstractButton::clicked, this, &KaDialpadButton::onClicked);
-    connect(this, &IKaButton::refreshConfig, this, &KaDialpadButton::refresh);
+    connectRefreshSlot();
     // Holding the key must not repeat clicks.
     setAutoRepeat(false);
     setCharacter(character);
@@ -144,7 +144,7 @@ void KaDialpadButton::refresh() {
     // A circle: the width follows the diameter.
     setFixedOrFreeWidth(g.fixedHeight);
     if (g.fixedHeight > 0)
-        setFocusRadius(g.fixedHeight / 2.0);
+        setFocusBorderRadius(g.fixedHeight / 2.0);
     const QFont lettersFont = BzFont(g.lettersFontToken);
     if (g.lettersColorSet != m_lettersSetName || lettersFont != m_lettersFont || g.gap != m_gap) {
         m_lettersSetName = g.lettersColorSet;

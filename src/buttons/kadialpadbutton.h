@@ -74,8 +74,11 @@ protected:
     void themeResolved() override;
     void keyPressEvent(QKeyEvent* event) override;
 
-private:
+private Q_SLOTS:
+    // Connected to refreshConfig() by connectRefreshSlot().
     void refresh();
+
+private:
     void updateAccessibleName();
     void onPressed();
     void onLongPress();

@@ -12,7 +12,7 @@ constexpr qreal kBorderWidth = 1;
 KaDualCellButton::KaDualCellButton(IKaDualCellConfig* config, QWidget* parent)
     : IKaButton(parent, config)
     , m_cellConfig(config) {
-    connect(this, &IKaButton::refreshConfig, this, &KaDualCellButton::refresh);
+    connectRefreshSlot();
     Q_EMIT refreshConfig();
 }
 

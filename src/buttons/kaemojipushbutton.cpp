@@ -30,7 +30,7 @@ KaEmojiPushButton::KaEmojiPushButton(const QString& codePoint, int count, QWidge
     buttonConfig()->setParent(this);
     setCheckable(true);
     connect(this, &QAbstractButton::toggled, this, &KaEmojiPushButton::onToggled);
-    connect(this, &IKaButton::refreshConfig, this, &KaEmojiPushButton::refresh);
+    connectRefreshSlot();
     setCodePoint(codePoint);
     setCount(count);
     refresh();
@@ -133,7 +133,7 @@ void KaEmojiPushButton::refresh() {
         updateGeometry();
     }
     if (g.fixedHeight > 0)
-        setFocusRadius(g.fixedHeight / 2.0);
+        setFocusBorderRadius(g.fixedHeight / 2.0);
     update();
 }
 

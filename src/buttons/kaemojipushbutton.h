@@ -54,8 +54,11 @@ protected:
     void decorations(Decorations* out) const override;
     void paintDecorations(QPainter* painter, const Geometry& geometry, QStyle::State state) override;
 
-private:
+private Q_SLOTS:
+    // Connected to refreshConfig() by connectRefreshSlot().
     void refresh();
+
+private:
     void updateAccessibleName();
     void onToggled(bool checked);
 

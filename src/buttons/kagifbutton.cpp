@@ -24,7 +24,7 @@ KaGifButton::KaGifButton(QWidget* parent)
         if (KaButtonConfig* config = kaButtonConfig())
             config->setStyle(KaButtonEnum::Secondary);
     }
-    connect(this, &IKaButton::refreshConfig, this, &KaGifButton::refresh);
+    connectRefreshSlot();
     refresh();
 }
 
@@ -160,7 +160,7 @@ void KaGifButton::refresh() {
     setTextLeftPadding(g.paddingLeft);
     setTextRightPadding(g.paddingRight);
     if (g.fixedHeight > 0)
-        setFocusRadius(g.fixedHeight / 2.0);
+        setFocusBorderRadius(g.fixedHeight / 2.0);
     if (g.svgIconSize != m_imageSize || g.svgIconSpacing != m_imageSpacing) {
         m_imageSize = g.svgIconSize;
         m_imageSpacing = g.svgIconSpacing;

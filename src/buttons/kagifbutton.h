@@ -68,8 +68,11 @@ protected:
     void paintDecorations(QPainter* painter, const Geometry& geometry, QStyle::State state) override;
     bool event(QEvent* event) override;
 
-private:
+private Q_SLOTS:
+    // Connected to refreshConfig() by connectRefreshSlot().
     void refresh();
+
+private:
     void updatePlayback();
     void updateScaledSize();
 

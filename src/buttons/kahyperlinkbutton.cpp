@@ -8,7 +8,7 @@ KaHyperlinkButton::KaHyperlinkButton(QWidget* parent)
     : IKaButton(parent, new KaHyperlinkButtonConfig) {
     buttonConfig()->setParent(this);
     setCursor(Qt::PointingHandCursor);
-    connect(this, &IKaButton::refreshConfig, this, &KaHyperlinkButton::refresh);
+    connectRefreshSlot();
     refresh();
 }
 
@@ -92,5 +92,5 @@ void KaHyperlinkButton::refresh() {
     setSvgIconVisible(g.svgIconVisible);
     setSvgIconSize(g.svgIconSize);
     setSvgIconSpacing(g.svgIconSpacing);
-    setFocusRadius(g.colors.squareCorners ? 0 : g.borderRadius);
+    setFocusBorderRadius(g.colors.squareCorners ? 0 : g.borderRadius);
 }

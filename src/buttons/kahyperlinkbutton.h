@@ -37,8 +37,10 @@ Q_SIGNALS:
 protected:
     bool event(QEvent* event) override;
 
-private:
+private Q_SLOTS:
+    // Connected to refreshConfig() by connectRefreshSlot().
     void refresh();
 
+private:
     bool m_hovered = false;
 };

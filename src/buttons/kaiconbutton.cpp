@@ -10,7 +10,7 @@ KaIconButton::KaIconButton(QWidget* parent)
     connect(this, &QAbstractButton::toggled, this, [this](bool checked) {
         setStyle(checked ? KaIconButtonEnum::ACTIVE : KaIconButtonEnum::INACTIVE);
     });
-    connect(this, &IKaButton::refreshConfig, this, &KaIconButton::refresh);
+    connectRefreshSlot();
     updateDefaultAccessibleName();
     refresh();
 }
@@ -67,7 +67,7 @@ void KaIconButton::refresh() {
     setAnchorIconVisible(false);
     if (g.fixedHeight > 0) {
         setFixedWidth(g.fixedHeight);
-        setFocusRadius(g.fixedHeight / 2.0);
+        setFocusBorderRadius(g.fixedHeight / 2.0);
     }
 }
 

@@ -8,7 +8,7 @@ KaOverlayButton::KaOverlayButton(QWidget* parent)
     m_overlayConfig->setParent(this);
     // A None overlay would be invisible: start as the expand arrow.
     m_overlayConfig->setType(KaOverlayButtonEnum::ExpandAreaOverlay);
-    connect(this, &IKaButton::refreshConfig, this, &KaOverlayButton::refresh);
+    connectRefreshSlot();
     updateDefaultAccessibleName();
     refresh();
 }
@@ -59,7 +59,7 @@ void KaOverlayButton::refresh() {
     setAnchorIconVisible(false);
     if (g.fixedHeight > 0) {
         setFixedWidth(g.fixedHeight);
-        setFocusRadius(g.fixedHeight / 2.0);
+        setFocusBorderRadius(g.fixedHeight / 2.0);
     }
 }
 

@@ -37,8 +37,11 @@ Q_SIGNALS:
 protected:
     void changeEvent(QEvent* event) override;
 
-private:
+private Q_SLOTS:
+    // Connected to refreshConfig() by connectRefreshSlot().
     void refresh();
+
+private:
     void updateDefaultAccessibleName();
 
     QPointer<KaOverlayButtonConfig> m_overlayConfig;

@@ -21,7 +21,7 @@ QString paddingSheet(int left, int right) {
 
 KaPillButton::KaPillButton(QWidget* parent)
     : KaButton(parent, new KaPillButtonConfig) {
-    connect(this, &IKaButton::refreshConfig, this, &KaPillButton::refresh);
+    connectRefreshSlot();
     refresh();
 }
 
@@ -52,5 +52,5 @@ void KaPillButton::refresh() {
     setAlignAnchorIconToText(g.alignAnchorIconToText);
     setAnchorSvgOffset(g.anchorSvgOffset);
     if (g.fixedHeight > 0)
-        setFocusRadius(g.fixedHeight / 2.0);
+        setFocusBorderRadius(g.fixedHeight / 2.0);
 }

@@ -15,6 +15,7 @@ public:
     KaPillButton(QWidget* parent, KaButtonEnum::Style style, KaButtonEnum::Size size);
     ~KaPillButton() override;
 
-private:
+private Q_SLOTS:
+    // Connected to refreshConfig() by connectRefreshSlot().
     void refresh();
 };

@@ -3,7 +3,7 @@
 KaRoundButton::KaRoundButton(QWidget* parent)
     : KaButton(parent, new KaRoundButtonConfig) {
     setSvgIconAlignment(BzEnum::AlignCenter);
-    connect(this, &IKaButton::refreshConfig, this, &KaRoundButton::refresh);
+    connectRefreshSlot();
     refresh();
 }
 
@@ -27,6 +27,6 @@ void KaRoundButton::refresh() {
     setAnchorIconVisible(false);
     if (g.fixedHeight > 0) {
         setFixedWidth(g.fixedHeight);
-        setFocusRadius(g.fixedHeight / 2.0);
+        setFocusBorderRadius(g.fixedHeight / 2.0);
     }
 }

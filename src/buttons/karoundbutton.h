@@ -16,6 +16,7 @@ public:
     KaRoundButton(QWidget* parent, KaButtonEnum::Style style, KaButtonEnum::Size size);
     ~KaRoundButton() override;
 
-private:
+private Q_SLOTS:
+    // Connected to refreshConfig() by connectRefreshSlot().
     void refresh();
 };

@@ -11,7 +11,7 @@ KaTitleBarButton::KaTitleBarButton(KaTitleBarButtonConfig::Type type, QWidget* p
     : IKaButton(parent, new KaTitleBarButtonConfig) {
     buttonConfig()->setParent(this);
     titleBarConfig()->setType(type);
-    connect(this, &IKaButton::refreshConfig, this, &KaTitleBarButton::refresh);
+    connectRefreshSlot();
     connect(this, &QAbstractButton::clicked, this, &KaTitleBarButton::actOnWindow);
     watchWindow();
     refresh();
@@ -116,7 +116,7 @@ void KaTitleBarButton::refresh() {
     if (!applyGeometry(titleBarConfig(), g))
         return;
     setFixedOrFreeWidth(g.fixedWidth);
-    setFocusRadius(0);
+    setFocusBorderRadius(0);
     if (g.glyph != m_glyph || g.glyphSize != m_glyphSize) {
         m_glyph = g.glyph;
         m_glyphSize = g.glyphSize;

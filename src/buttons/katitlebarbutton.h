@@ -51,8 +51,11 @@ protected:
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private:
+private Q_SLOTS:
+    // Connected to refreshConfig() by connectRefreshSlot().
     void refresh();
+
+private:
     void actOnWindow();
     void watchWindow();
     void syncWindowState();

@@ -106,7 +106,7 @@ KaTabItem::KaTabItem(QWidget* parent)
     setAnchorSvgOn(kCloseIcon);
     setAlignAnchorIconToText(false);
     setAnchorPadding(0);
-    connect(this, &IKaButton::refreshConfig, this, &KaTabItem::refresh);
+    connectRefreshSlot();
     connect(this, &QAbstractButton::clicked, this, &KaTabItem::onClicked);
     connect(this, &BzSvgAnchorButton::anchorClicked, this, [this] {
         if (showsClose())
@@ -259,7 +259,7 @@ void KaTabItem::refresh() {
     m_padding = g.padding;
     m_spacing = g.spacing;
     setFixedOrFreeWidth(g.fixedWidth);
-    setFocusRadius(g.radius);
+    setFocusBorderRadius(g.radius);
     if (g.indicatorHeight != m_indicatorHeight) {
         m_indicatorHeight = g.indicatorHeight;
         update();

@@ -164,6 +164,16 @@ private Q_SLOTS:
         QCOMPARE(button.property("focusBorderRadius").toReal(), 20.0);
         button.setCSS(primary(4));
         QCOMPARE(button.property("focusBorderRadius").toReal(), 4.0);
+
+        // A radius the host sets stays through new records and themes.
+        QVERIFY(button.setProperty("focusBorderRadius", 7));
+        button.setCSS(primary(2));
+        button.resize(90, 36);
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
+        QCoreApplication::processEvents();
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
+        QCOMPARE(button.property("focusBorderRadius").toReal(), 7.0);
+        QVERIFY(button.dynamicPropertyNames().isEmpty());
     }
 
     void elidesWhenNarrow_data() {
@@ -399,11 +409,12 @@ private Q_SLOTS:
     }
 
     void notifiesOnce() {
-        BzPushButton button;
+        ReportingButton<BzPushButton> button;
         // "css" is left out: writing it always re-resolves, and says so.
         checkNotifiesOnce(button, BzPushButton::staticMetaObject,
                           {{QStringLiteral("css"), QVariant()},
-                           {QStringLiteral("focusRectColorSet"), QStringLiteral("global-focus-outline")}});
+                           {QStringLiteral("focusRectColorSet"), QStringLiteral("global-focus-outline")}},
+                          [&](const char* name) { return button.reported(name); });
     }
 
     void acceleratorType() {

@@ -166,11 +166,12 @@ private Q_SLOTS:
     }
 
     void notifiesOnce() {
-        BzSvgAnchorButton button;
+        ReportingButton<BzSvgAnchorButton> button;
         checkNotifiesOnce(button, BzSvgAnchorButton::staticMetaObject,
                           {{QStringLiteral("anchorSvgOn"), kLeftHalf},
                            {QStringLiteral("anchorSvgOff"), kSquare},
-                           {QStringLiteral("anchorSvgColorSet"), QStringLiteral("label-error-text")}});
+                           {QStringLiteral("anchorSvgColorSet"), QStringLiteral("label-error-text")}},
+                          [&](const char* name) { return button.reported(name); });
     }
 };
 

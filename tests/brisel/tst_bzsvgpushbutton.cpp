@@ -184,13 +184,14 @@ private Q_SLOTS:
     }
 
     void notifiesOnce() {
-        BzSvgPushButton button;
+        ReportingButton<BzSvgPushButton> button;
         checkNotifiesOnce(button, BzSvgPushButton::staticMetaObject,
                           {{QStringLiteral("svgIcon"), kSquare},
                            {QStringLiteral("svgIconChecked"), kLeftHalf},
                            {QStringLiteral("svgIconColorSet"), QStringLiteral("label-error-text")},
                            {QStringLiteral("innerSvgIcon"), kSquare},
-                           {QStringLiteral("innerSvgIconColorSet"), QStringLiteral("label-primary-text")}});
+                           {QStringLiteral("innerSvgIconColorSet"), QStringLiteral("label-primary-text")}},
+                          [&](const char* name) { return button.reported(name); });
     }
 };
 

@@ -1,6 +1,7 @@
 #include "bzthememanager.h"
 #include "bzthemeutils.h"
 #include "ikabutton.h"
+#include "testhelpers.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -20,7 +21,7 @@ public:
     void setHasRightIcon(bool hasIcon) override { log << QStringLiteral("right:%1").arg(hasIcon); }
     void setCustomValue(int value) override {
         customValue = value;
-        Q_EMIT configChanged();
+        notifyConfigChanged();
     }
 
     Config record;
@@ -98,6 +99,27 @@ private Q_SLOTS:
         QCOMPARE(config->log.size(), 4);
     }
 
+    // The base button declares no change signals; the properties re-declared
+    // here still announce each new value once.
+    void basePropertiesNotify() {
+        TestButton button(new TestConfig);
+        const QString icon = QStringLiteral(":/Resources/check-regular.svg");
+        const QString set = QStringLiteral("label-error-text");
+        BzTest::checkNotifiesOnce(button, IKaButton::staticMetaObject,
+                                  {{QStringLiteral("css"), QVariant()},
+                                   {QStringLiteral("sizePolicy"), QVariant()},
+                                   {QStringLiteral("focusPolicy"), QVariant()},
+                                   {QStringLiteral("anchorSvgOn"), icon},
+                                   {QStringLiteral("anchorSvgOff"), icon},
+                                   {QStringLiteral("svgIcon"), icon},
+                                   {QStringLiteral("svgIconChecked"), icon},
+                                   {QStringLiteral("innerSvgIcon"), icon},
+                                   {QStringLiteral("anchorSvgColorSet"), set},
+                                   {QStringLiteral("focusRectColorSet"), set},
+                                   {QStringLiteral("svgIconColorSet"), set},
+                                   {QStringLiteral("innerSvgIconColorSet"), set}});
+    }
+
     void recordIsApplied() {
         auto* config = new TestConfig;
         config->record.sizePolicy = QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -117,8 +139,8 @@ private Q_SLOTS:
         QCOMPARE(button.layoutMode(), 3);
         QCOMPARE(button.innerMetric(), 17);
 
-        QSignalSpy layout(&button, &BzPushButton::layoutModeChanged);
-        QSignalSpy inner(&button, &BzPushButton::innerMetricChanged);
+        QSignalSpy layout(&button, &IKaButton::layoutModeChanged);
+        QSignalSpy inner(&button, &IKaButton::innerMetricChanged);
         Q_EMIT button.refreshConfig();
         QCOMPARE(layout.count(), 0);
         QCOMPARE(inner.count(), 0);
