@@ -6,8 +6,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <memory>
-
 namespace {
 
 using Colors = KaButtonConfigRecord::Colors;
@@ -121,45 +119,6 @@ private Q_SLOTS:
         QCOMPARE(colors.hasAnyBorder(), drawn);
     }
 
-    void setStyleAlwaysNotifies() {
-        KaPillButtonConfig pill;
-        QSignalSpy styleSpy(&pill, &KaButtonConfig::styleChanged);
-        QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
-
-        pill.setStyle(KaButtonEnum::Primary); // the current style
-        pill.setStyle(KaButtonEnum::Primary);
-        pill.setStyle(KaButtonEnum::Ghost);
-        QCOMPARE(styleSpy.count(), 3);
-        QCOMPARE(configSpy.count(), 3);
-        QCOMPARE(styleSpy.at(0).at(0).value<KaButtonEnum::Style>(), KaButtonEnum::Primary);
-        QCOMPARE(styleSpy.at(2).at(0).value<KaButtonEnum::Style>(), KaButtonEnum::Ghost);
-        QCOMPARE(pill.style(), KaButtonEnum::Ghost);
-    }
-
-    void setSizeNotifiesOnlyOnChange_data() {
-        QTest::addColumn<int>("size");
-        QTest::addColumn<int>("notifications");
-        // The pill starts Large; the round button shares the setter.
-        QTest::newRow("same") << int(KaButtonEnum::Large) << 0;
-        QTest::newRow("other") << int(KaButtonEnum::Small) << 1;
-    }
-
-    void setSizeNotifiesOnlyOnChange() {
-        QFETCH(int, size);
-        QFETCH(int, notifications);
-        const auto config = std::make_unique<KaPillButtonConfig>();
-        QSignalSpy sizeSpy(config.get(), &KaButtonConfig::sizeChanged);
-        QSignalSpy configSpy(config.get(), &IKaButtonConfig::configChanged);
-
-        config->setSize(KaButtonEnum::Size(size));
-        config->setSize(KaButtonEnum::Size(size)); // never repeats
-        QCOMPARE(sizeSpy.count(), notifications);
-        QCOMPARE(configSpy.count(), notifications);
-        QCOMPARE(int(config->size()), size);
-        if (notifications)
-            QCOMPARE(sizeSpy.at(0).at(0).value<KaButtonEnum::Size>(), KaButtonEnum::Size(size));
-    }
-
     void checkedDrivesState_data() {
         QTest::addColumn<QList<bool>>("toggles");
         QTest::addColumn<int>("state");
@@ -199,23 +158,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("off");
         QTest::addColumn<QString>("on");
         QTest::addColumn<bool>("hasRightIcon");
-        QTest::newRow("plain") << QStringList{QStringLiteral("right=a")} << "a"
-                               << "a" << true;
-        QTest::newRow("plain, then on")
-            << QStringList{QStringLiteral("right=a"), QStringLiteral("on=b")} << "a"
-            << "b" << true;
-        QTest::newRow("on, then plain")
-            << QStringList{QStringLiteral("on=b"), QStringLiteral("right=a")} << "a"
-            << "a" << true;
-        QTest::newRow("on only") << QStringList{QStringLiteral("on=b")} << ""
-                                 << "b" << false;
+        QTest::newRow("plain") << QStringList{QStringLiteral("right=a")} << QStringLiteral("a")
+                               << QStringLiteral("a") << true;
+        QTest::newRow("plain, then on") << QStringList{QStringLiteral("right=a"), QStringLiteral("on=b")}
+                                        << QStringLiteral("a") << QStringLiteral("b") << true;
+        QTest::newRow("on, then plain") << QStringList{QStringLiteral("on=b"), QStringLiteral("right=a")}
+                                        << QStringLiteral("a") << QStringLiteral("a") << true;
+        QTest::newRow("on only") << QStringList{QStringLiteral("on=b")} << QStringLiteral("")
+                                 << QStringLiteral("b") << false;
         QTest::newRow("plain, on, plain again")
             << QStringList{QStringLiteral("right=a"), QStringLiteral("on=b"), QStringLiteral("right=c")}
-            << "c"
-            << "c" << true;
-        QTest::newRow("plain, cleared")
-            << QStringList{QStringLiteral("right=a"), QStringLiteral("right=")} << ""
-            << "" << false;
+            << QStringLiteral("c") << QStringLiteral("c") << true;
+        QTest::newRow("plain, cleared") << QStringList{QStringLiteral("right=a"), QStringLiteral("right=")}
+                                        << QStringLiteral("") << QStringLiteral("") << false;
     }
 
     void rightIconOrder() {
@@ -237,17 +192,6 @@ private Q_SLOTS:
         KaPillButtonConfig::Geometry geometry;
         pill.fillGeometry(geometry);
         QCOMPARE(geometry.anchorIconVisible, hasRightIcon);
-    }
-
-    void customValueBecomesAcceleratorType() {
-        KaRoundButtonConfig round;
-        QSignalSpy configSpy(&round, &IKaButtonConfig::configChanged);
-        round.setCustomValue(3);
-        round.setCustomValue(3);
-        QCOMPARE(configSpy.count(), 1);
-        KaRoundButtonConfig::Geometry geometry;
-        round.fillGeometry(geometry);
-        QCOMPARE(geometry.acceleratorType, 3);
     }
 };
 
