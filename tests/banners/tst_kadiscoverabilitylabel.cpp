@@ -61,9 +61,6 @@ private Q_SLOTS:
             << int(KaDiscoverabilityEnum::IconWithBorder) << false << false << 18 << false
             << QStringLiteral("newFeature-badgeWithBorder-background")
             << QStringLiteral("newFeature-badgeWithBorder-border");
-        QTest::newRow("badge") << int(KaDiscoverabilityEnum::IconBadge) << false << false << 18 << false
-                               << QStringLiteral("newFeature-badge-background")
-                               << QStringLiteral("newFeature-badge-border");
     }
 
     void looks() {
