@@ -9,6 +9,8 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QEnterEvent>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace ButtonTest;
@@ -193,6 +195,15 @@ private Q_SLOTS:
         item.setAccessibleName(QStringLiteral("Notification settings"));
         QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Notification settings"));
         QCOMPARE(item.focusPolicy(), Qt::NoFocus);
+    }
+
+    // Nothing in the library listens to it: hosts do.
+    void hoverSignal() {
+        KaMenuItem item(QStringLiteral("Paste"));
+        QSignalSpy spy(&item, &KaMenuItem::hovered);
+        QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+        QCoreApplication::sendEvent(&item, &enter);
+        QCOMPARE(spy.count(), 1);
     }
 
     // A record fills the entry: two lines, a badge, a tick, disabled.
