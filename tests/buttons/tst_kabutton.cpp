@@ -103,8 +103,6 @@ private Q_SLOTS:
         QCOMPARE(refreshes.count(), expectedSignals);
     }
 
-    // The configuration's width policy seen through the widget: notified on a
-    // change, refreshed on every write.
     void widthSizePolicy() {
         TestButton button;
         QSignalSpy changed(&button, &KaButton::widthSizePolicyChanged);

@@ -6,6 +6,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <memory>
+
 namespace {
 
 using Colors = KaButtonConfigRecord::Colors;
@@ -117,6 +119,45 @@ private Q_SLOTS:
         colors.setBorderColorSet(name);
         QCOMPARE(colors.hasBorder, allSides(drawn));
         QCOMPARE(colors.hasAnyBorder(), drawn);
+    }
+
+    void setStyleAlwaysNotifies() {
+        KaPillButtonConfig pill;
+        QSignalSpy styleSpy(&pill, &KaButtonConfig::styleChanged);
+        QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
+
+        pill.setStyle(KaButtonEnum::Primary); // the current style
+        pill.setStyle(KaButtonEnum::Primary);
+        pill.setStyle(KaButtonEnum::Ghost);
+        QCOMPARE(styleSpy.count(), 3);
+        QCOMPARE(configSpy.count(), 3);
+        QCOMPARE(styleSpy.at(0).at(0).value<KaButtonEnum::Style>(), KaButtonEnum::Primary);
+        QCOMPARE(styleSpy.at(2).at(0).value<KaButtonEnum::Style>(), KaButtonEnum::Ghost);
+        QCOMPARE(pill.style(), KaButtonEnum::Ghost);
+    }
+
+    void setSizeNotifiesOnlyOnChange_data() {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<int>("notifications");
+        // The pill starts Large; the round button shares the setter.
+        QTest::newRow("same") << int(KaButtonEnum::Large) << 0;
+        QTest::newRow("other") << int(KaButtonEnum::Small) << 1;
+    }
+
+    void setSizeNotifiesOnlyOnChange() {
+        QFETCH(int, size);
+        QFETCH(int, notifications);
+        const auto config = std::make_unique<KaPillButtonConfig>();
+        QSignalSpy sizeSpy(config.get(), &KaButtonConfig::sizeChanged);
+        QSignalSpy configSpy(config.get(), &IKaButtonConfig::configChanged);
+
+        config->setSize(KaButtonEnum::Size(size));
+        config->setSize(KaButtonEnum::Size(size)); // never repeats
+        QCOMPARE(sizeSpy.count(), notifications);
+        QCOMPARE(configSpy.count(), notifications);
+        QCOMPARE(int(config->size()), size);
+        if (notifications)
+            QCOMPARE(sizeSpy.at(0).at(0).value<KaButtonEnum::Size>(), KaButtonEnum::Size(size));
     }
 
     void checkedDrivesState_data() {

@@ -100,6 +100,28 @@ private Q_SLOTS:
         // One refresh per real change, although the flag changed as well.
         QCOMPARE(configSpy.count(), 2);
     }
+
+    void widthPolicy_data() {
+        QTest::addColumn<int>("policy");
+        QTest::newRow("Expanding") << int(QSizePolicy::Expanding);
+        QTest::newRow("Maximum again") << int(QSizePolicy::Maximum);
+    }
+
+    void widthPolicy() {
+        QFETCH(int, policy);
+        KaPillButtonConfig pill;
+        QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
+        QSignalSpy policySpy(&pill, &KaButtonConfig::widthSizePolicyChanged);
+        pill.setWidthSizePolicy(QSizePolicy::Policy(policy));
+        // Always a refresh; the property signal only on a change.
+        QCOMPARE(configSpy.count(), 1);
+        QCOMPARE(policySpy.count(), policy == QSizePolicy::Maximum ? 0 : 1);
+        KaPillButtonConfig::Geometry g;
+        pill.fillGeometry(g);
+        QCOMPARE(int(g.sizePolicy.horizontalPolicy()), policy);
+        QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
+        QCOMPARE(g.sizePolicy.controlType(), QSizePolicy::DefaultType);
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_KaPillButtonConfig)
