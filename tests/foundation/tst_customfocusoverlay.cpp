@@ -47,15 +47,19 @@ private Q_SLOTS:
 
     void colorsOfEachTheme_data() {
         QTest::addColumn<QString>("theme");
-        for (const char* theme : {"light", "dark", "highContrast"})
-            QTest::addRow("%s", theme) << QString::fromLatin1(theme);
+        QTest::addColumn<bool>("opaque");
+        // The halo itself: tst_kafocusstyle's haloAlpha; here the flag reaches it.
+        QTest::newRow("light") << QStringLiteral("light") << false;
+        QTest::newRow("dark, opaque") << QStringLiteral("dark") << true;
+        QTest::newRow("highContrast") << QStringLiteral("highContrast") << false;
     }
 
     void colorsOfEachTheme() {
         QFETCH(QString, theme);
+        QFETCH(bool, opaque);
         QVERIFY(BzThemeManager::instance()->setCurrentTheme(theme));
 
-        CustomFocusOverlay overlay(kOuter, kInner, true);
+        CustomFocusOverlay overlay(kOuter, kInner, opaque);
         QCOMPARE(overlay.objectName(), QStringLiteral("CustomFocusOverlay"));
         overlay.resize(60, 30);
         const QImage image = render(&overlay);
@@ -66,8 +70,7 @@ private Q_SLOTS:
         QVERIFY(outer != inner);
         QCOMPARE(image.pixel(2, 15), outer);
         QCOMPARE(image.pixel(4, 15), inner);
-        // Translucent halos: tst_kafocusstyle's haloAlpha.
-        QCOMPARE(qAlpha(image.pixel(0, 15)), 255);
+        QCOMPARE(qAlpha(image.pixel(0, 15)), opaque ? 255 : 77);
         QCOMPARE(qAlpha(image.pixel(30, 15)), 0);
     }
 
