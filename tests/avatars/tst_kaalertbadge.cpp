@@ -21,10 +21,6 @@ private Q_SLOTS:
             << int(KaBadgeEnum::DefaultBadge) << QStringLiteral("alertbadge-default-background") << false;
         QTest::newRow("Announcement")
             << int(KaBadgeEnum::Announcement) << QStringLiteral("alertbadge-announcement-background") << true;
-        QTest::newRow("AlertWarning")
-            << int(KaBadgeEnum::AlertWarning) << QStringLiteral("alertbadge-warning-background") << true;
-        QTest::newRow("Important") << int(KaBadgeEnum::Important)
-                                   << QStringLiteral("alertbadge-important-background") << true;
         QTest::newRow("AlertGeneral")
             << int(KaBadgeEnum::AlertGeneral) << QStringLiteral("alertbadge-blocked-background") << true;
     }

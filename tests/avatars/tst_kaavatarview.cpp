@@ -69,7 +69,6 @@ private Q_SLOTS:
         QTest::newRow("released outside") << 0 << int(Qt::LeftButton) << QPoint(200, 10) << 0;
         QTest::newRow("right button") << 0 << int(Qt::RightButton) << QPoint(10, 10) << 0;
         QTest::newRow("Return") << int(Qt::Key_Return) << 0 << QPoint() << 1;
-        QTest::newRow("Enter") << int(Qt::Key_Enter) << 0 << QPoint() << 1;
         QTest::newRow("Space") << int(Qt::Key_Space) << 0 << QPoint() << 1;
         QTest::newRow("other key") << int(Qt::Key_A) << 0 << QPoint() << 0;
     }
@@ -132,8 +131,6 @@ private Q_SLOTS:
         switchTheme("dark");
         QVERIFY(colorOf(face) != light);
         QTRY_COMPARE(updated.count(), 1);
-        QCoreApplication::processEvents();
-        QCOMPARE(updated.count(), 1);
         QVERIFY(BzTest::near(BzTest::paint(*views[0], 2.0).pixelColor(16, 72), colorOf(face)));
     }
 

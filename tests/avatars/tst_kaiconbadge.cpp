@@ -28,7 +28,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("color");
         QTest::newRow("warning") << int(IconBadgeWarning) << QStringLiteral("label-warning-text");
-        QTest::newRow("priority") << int(IconBadgePriority) << QStringLiteral("label-error-text");
         QTest::newRow("unread") << int(IconBadgeUnread) << QStringLiteral("badge-background");
     }
 

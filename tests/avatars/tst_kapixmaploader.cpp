@@ -101,8 +101,6 @@ private Q_SLOTS:
         // after it, both are drawn.
         QTest::newRow("emoji and a letter")
             << QStringLiteral("\U0001F600x") << QStringLiteral("\U0001F600X") << QStringLiteral("\U0001F600");
-        QTest::newRow("two letters of another script")
-            << QStringLiteral("\u0431\u0434") << QStringLiteral("\u0411\u0414") << QStringLiteral("\u0411");
     }
 
     void initialsByCodePoint() {

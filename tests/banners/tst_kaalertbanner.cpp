@@ -157,11 +157,10 @@ private Q_SLOTS:
     void accessibleText_data() {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("null name takes the text") << QString() << "Connection lost";
-        QTest::newRow("own name") << "Error: connection lost"
-                                  << "Error: connection lost";
-        QTest::newRow("empty name stays empty") << ""
-                                                << "";
+        QTest::newRow("null name takes the text") << QString() << QStringLiteral("Connection lost");
+        QTest::newRow("own name") << QStringLiteral("Error: connection lost")
+                                  << QStringLiteral("Error: connection lost");
+        QTest::newRow("empty name stays empty") << QStringLiteral("") << QStringLiteral("");
     }
 
     void accessibleText() {
@@ -239,9 +238,9 @@ private Q_SLOTS:
 
     void keyboardFocusRing_data() {
         QTest::addColumn<QString>("target");
-        QTest::newRow("banner") << "KaAlertBanner";
-        QTest::newRow("text") << "alertBannerText";
-        QTest::newRow("dismiss") << "dismissButton";
+        QTest::newRow("banner") << QStringLiteral("KaAlertBanner");
+        QTest::newRow("text") << QStringLiteral("alertBannerText");
+        QTest::newRow("dismiss") << QStringLiteral("dismissButton");
     }
 
     void keyboardFocusRing() {

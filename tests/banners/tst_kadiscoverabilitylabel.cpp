@@ -49,20 +49,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("background");
         QTest::addColumn<QString>("edge"); // colour set at the top edge's middle
         QTest::newRow("text tag") << int(KaDiscoverabilityEnum::IconWithTextTag) << false << false << 24
-                                  << true << "newFeature-tag-background"
-                                  << "newFeature-tag-background";
-        QTest::newRow("text tag, border flag") << int(KaDiscoverabilityEnum::IconWithTextTag) << true << false
-                                               << 24 << true << "newFeature-tag-background"
-                                               << "newFeature-tag-border";
-        QTest::newRow("icon tag, high contrast") << int(KaDiscoverabilityEnum::IconTag) << false << true << 24
-                                                 << false << "newFeature-tag-background"
-                                                 << "newFeature-tag-border";
-        QTest::newRow("badge with border") << int(KaDiscoverabilityEnum::IconWithBorder) << false << false
-                                           << 18 << false << "newFeature-badgeWithBorder-background"
-                                           << "newFeature-badgeWithBorder-border";
-        QTest::newRow("badge") << int(KaDiscoverabilityEnum::IconBadge) << false << false << 18 << false
-                               << "newFeature-badge-background"
-                               << "newFeature-badge-border";
+                                  << true << QStringLiteral("newFeature-tag-background")
+                                  << QStringLiteral("newFeature-tag-background");
+        QTest::newRow("text tag, border flag")
+            << int(KaDiscoverabilityEnum::IconWithTextTag) << true << false << 24 << true
+            << QStringLiteral("newFeature-tag-background") << QStringLiteral("newFeature-tag-border");
+        QTest::newRow("icon tag, high contrast")
+            << int(KaDiscoverabilityEnum::IconTag) << false << true << 24 << false
+            << QStringLiteral("newFeature-tag-background") << QStringLiteral("newFeature-tag-border");
+        QTest::newRow("badge with border")
+            << int(KaDiscoverabilityEnum::IconWithBorder) << false << false << 18 << false
+            << QStringLiteral("newFeature-badgeWithBorder-background")
+            << QStringLiteral("newFeature-badgeWithBorder-border");
     }
 
     void looks() {

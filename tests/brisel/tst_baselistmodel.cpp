@@ -32,8 +32,6 @@ private Q_SLOTS:
         QTest::newRow("string") << int(NameRole) << QVariant(QStringLiteral("Ünïcode"));
         QTest::newRow("int") << int(CountRole) << QVariant(42);
         QTest::newRow("bool in a role the row lacks") << int(FlagRole) << QVariant(true);
-        QTest::newRow("list") << int(NameRole)
-                              << QVariant(QStringList{QStringLiteral("a"), QStringLiteral("b")});
     }
     void setData() {
         QFETCH(int, role);

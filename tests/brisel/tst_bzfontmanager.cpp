@@ -30,7 +30,6 @@ private Q_SLOTS:
         QTest::newRow("lower bound") << 0.5 << 0.5 << false;
         QTest::newRow("upper bound") << 3.0 << 3.0 << false;
         QTest::newRow("too small") << 0.1 << 0.5 << true;
-        QTest::newRow("negative") << -2.0 << 0.5 << true;
         QTest::newRow("too large") << 7.0 << 3.0 << true;
     }
     void setTextScaleClamps() {

@@ -45,7 +45,6 @@ private Q_SLOTS:
         QTest::newRow("transparent") << "Transparent" << QColor(0, 0, 0, 0);
         QTest::newRow("five digits") << "#12345" << QColor();
         QTest::newRow("not hex") << "#gg0000" << QColor();
-        QTest::newRow("0x prefix") << "#0x123456" << QColor();
         QTest::newRow("plus sign") << "#+1234567" << QColor();
         QTest::newRow("inner blank") << "# 1234567" << QColor();
         QTest::newRow("blank in keyword") << "na vy" << QColor();

@@ -11,22 +11,22 @@ private Q_SLOTS:
     void pairingRule_data() {
         QTest::addColumn<QString>("foreground");
         QTest::addColumn<QString>("background"); // empty: not a checked foreground
-        QTest::newRow("same variant") << "button-primary-text"
-                                      << "button-primary-background";
-        QTest::newRow("deeper variant") << "call-history-item-missed-header-text"
-                                        << "call-history-item-background";
-        QTest::newRow("shared suffix wins the tie") << "avatar-color-avatar-text-error"
-                                                    << "avatar-color-avatar-background-error";
-        QTest::newRow("icon role") << "avatar-presence-icon-busy"
-                                   << "avatar-presence-icon-background";
-        QTest::newRow("camel-case role") << "welcomeCard-titleText"
-                                         << "welcomeCard-background";
-        QTest::newRow("family without background") << "label-primary-text"
-                                                   << "";
-        QTest::newRow("background is not foreground") << "shortcutinput-active-available-textBackground"
-                                                      << "";
-        QTest::newRow("border is not foreground") << "button-primary-border"
-                                                  << "";
+        QTest::newRow("same variant")
+            << QStringLiteral("button-primary-text") << QStringLiteral("button-primary-background");
+        QTest::newRow("deeper variant") << QStringLiteral("call-history-item-missed-header-text")
+                                        << QStringLiteral("call-history-item-background");
+        QTest::newRow("shared suffix wins the tie") << QStringLiteral("avatar-color-avatar-text-error")
+                                                    << QStringLiteral("avatar-color-avatar-background-error");
+        QTest::newRow("icon role") << QStringLiteral("avatar-presence-icon-busy")
+                                   << QStringLiteral("avatar-presence-icon-background");
+        QTest::newRow("camel-case role")
+            << QStringLiteral("welcomeCard-titleText") << QStringLiteral("welcomeCard-background");
+        QTest::newRow("family without background")
+            << QStringLiteral("label-primary-text") << QStringLiteral("");
+        QTest::newRow("background is not foreground")
+            << QStringLiteral("shortcutinput-active-available-textBackground") << QStringLiteral("");
+        QTest::newRow("border is not foreground")
+            << QStringLiteral("button-primary-border") << QStringLiteral("");
     }
 
     void pairingRule() {
@@ -59,9 +59,9 @@ private Q_SLOTS:
     void builtInThemes_data() {
         QTest::addColumn<QString>("theme");
         QTest::addColumn<double>("required");
-        QTest::newRow("light") << "light" << 4.5;
-        QTest::newRow("dark") << "dark" << 4.5;
-        QTest::newRow("highContrast") << "highContrast" << 7.0;
+        QTest::newRow("light") << QStringLiteral("light") << 4.5;
+        QTest::newRow("dark") << QStringLiteral("dark") << 4.5;
+        QTest::newRow("highContrast") << QStringLiteral("highContrast") << 7.0;
     }
 
     void builtInThemes() {

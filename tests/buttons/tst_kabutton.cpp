@@ -84,7 +84,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("expectedSignals");
         QTest::newRow("current size (Large)") << int(KaButtonEnum::Large) << 0;
         QTest::newRow("ExtraLarge") << int(KaButtonEnum::ExtraLarge) << 1;
-        QTest::newRow("ExtraSmall") << int(KaButtonEnum::ExtraSmall) << 1;
     }
 
     void setSizeDoesNotRepeat() {

@@ -199,23 +199,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("off");
         QTest::addColumn<QString>("on");
         QTest::addColumn<bool>("hasRightIcon");
-        QTest::newRow("plain") << QStringList{QStringLiteral("right=a")} << "a"
-                               << "a" << true;
-        QTest::newRow("plain, then on")
-            << QStringList{QStringLiteral("right=a"), QStringLiteral("on=b")} << "a"
-            << "b" << true;
-        QTest::newRow("on, then plain")
-            << QStringList{QStringLiteral("on=b"), QStringLiteral("right=a")} << "a"
-            << "a" << true;
-        QTest::newRow("on only") << QStringList{QStringLiteral("on=b")} << ""
-                                 << "b" << false;
+        QTest::newRow("plain") << QStringList{QStringLiteral("right=a")} << QStringLiteral("a")
+                               << QStringLiteral("a") << true;
+        QTest::newRow("plain, then on") << QStringList{QStringLiteral("right=a"), QStringLiteral("on=b")}
+                                        << QStringLiteral("a") << QStringLiteral("b") << true;
+        QTest::newRow("on, then plain") << QStringList{QStringLiteral("on=b"), QStringLiteral("right=a")}
+                                        << QStringLiteral("a") << QStringLiteral("a") << true;
+        QTest::newRow("on only") << QStringList{QStringLiteral("on=b")} << QStringLiteral("")
+                                 << QStringLiteral("b") << false;
         QTest::newRow("plain, on, plain again")
             << QStringList{QStringLiteral("right=a"), QStringLiteral("on=b"), QStringLiteral("right=c")}
-            << "c"
-            << "c" << true;
-        QTest::newRow("plain, cleared")
-            << QStringList{QStringLiteral("right=a"), QStringLiteral("right=")} << ""
-            << "" << false;
+            << QStringLiteral("c") << QStringLiteral("c") << true;
+        QTest::newRow("plain, cleared") << QStringList{QStringLiteral("right=a"), QStringLiteral("right=")}
+                                        << QStringLiteral("") << QStringLiteral("") << false;
     }
 
     void rightIconOrder() {
@@ -237,17 +233,6 @@ private Q_SLOTS:
         KaPillButtonConfig::Geometry geometry;
         pill.fillGeometry(geometry);
         QCOMPARE(geometry.anchorIconVisible, hasRightIcon);
-    }
-
-    void customValueBecomesAcceleratorType() {
-        KaRoundButtonConfig round;
-        QSignalSpy configSpy(&round, &IKaButtonConfig::configChanged);
-        round.setCustomValue(3);
-        round.setCustomValue(3);
-        QCOMPARE(configSpy.count(), 1);
-        KaRoundButtonConfig::Geometry geometry;
-        round.fillGeometry(geometry);
-        QCOMPARE(geometry.acceleratorType, 3);
     }
 };
 

@@ -43,11 +43,8 @@ private Q_SLOTS:
         };
         row("1", "", "", "1");
         row("2", "ABC", "", "2 ABC");
-        row("7", "PQRS", "", "7 PQRS");
-        row("9", "WXYZ", "", "9 WXYZ");
         row("0", "+", "+", "0 +");
         row("*", "", "", "*");
-        row("#", "", "", "#");
     }
 
     void keypadLayout() {

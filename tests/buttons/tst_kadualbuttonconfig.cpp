@@ -41,7 +41,6 @@ private Q_SLOTS:
             << 0x32 << false << false << QStringLiteral("button-primary-background") << false;
         QTest::newRow("IconLabelSecondary") << 0x133 << true << false << secondary << true;
         QTest::newRow("LabelArrowSecondary") << 0x93 << false << true << secondary << true;
-        QTest::newRow("LabelIconSecondaryAlignRight") << 0x233 << false << false << secondary << true;
         QTest::newRow("LabelArrowGreen")
             << 0x97 << false << true << QStringLiteral("button-join-fill-background") << false;
     }
@@ -179,11 +178,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("checked");
         QTest::newRow("secondary") << 0x33 << QStringLiteral("button-secondary-background")
                                    << QStringLiteral("button-secondary-active-background");
-        QTest::newRow("ghost") << 0xC1 << QStringLiteral("button-ghost-background")
-                               << QStringLiteral("button-ghost-active-background");
-        QTest::newRow("dark theme secondary")
-            << 0x136 << QStringLiteral("sharewindow-control-button-secondary-background")
-            << QStringLiteral("sharewindow-control-button-active-background");
         QTest::newRow("always active") << 0xC4 << QStringLiteral("button-secondary-active-background")
                                        << QStringLiteral("button-secondary-active-background");
         QTest::newRow("green ignores it") << 0x97 << QStringLiteral("button-join-fill-background")

@@ -47,9 +47,7 @@ private Q_SLOTS:
         const int rtl = Qt::RightToLeft;
         QTest::newRow("LabelIconSecondary") << 0x33 << false << false << int(BzEnum::Center) << ltr;
         QTest::newRow("IconLabelSecondary") << 0x133 << true << false << int(BzEnum::Center) << ltr;
-        QTest::newRow("IconLabelDarkThemeSecondary") << 0x136 << true << false << int(BzEnum::Center) << ltr;
         QTest::newRow("LabelArrowSecondary") << 0x93 << false << true << int(BzEnum::Center) << ltr;
-        QTest::newRow("AsymIconArrowGhost") << 0xC1 << false << true << int(BzEnum::Center) << ltr;
         QTest::newRow("LabelIconSecondaryAlignRight") << 0x233 << false << false << int(BzEnum::Right) << ltr;
         QTest::newRow("IconLabelSecondary rtl") << 0x133 << true << false << int(BzEnum::Center) << rtl;
         QTest::newRow("LabelArrowGreen rtl") << 0x97 << false << true << int(BzEnum::Center) << rtl;
@@ -173,8 +171,6 @@ private Q_SLOTS:
         Shown shown(KaDualButtonEnum::LabelArrowSecondary);
         QMenu menu;
         menu.addAction(QStringLiteral("Audio only"));
-        QTest::keyClick(shown.button->labelCell(), Qt::Key_Down, Qt::AltModifier);
-        QVERIFY(!menu.isVisible()); // no menu attached yet
         shown.button->setMenu(&menu);
         QTest::keyClick(shown.button->labelCell(), Qt::Key_Down, Qt::AltModifier);
         QTRY_VERIFY(menu.isVisible());

@@ -38,10 +38,8 @@ private Q_SLOTS:
 
         QTest::newRow("SecondaryHorizontal") << 0x123 << false << false;
         QTest::newRow("SecondaryVertical") << 0x523 << true << false;
-        QTest::newRow("InvertedVertical") << 0x525 << true << false;
         QTest::newRow("AsymSecondaryHorizontal") << 0x143 << false << true;
         QTest::newRow("AsymIconSecondaryVertical") << 0x543 << true << true;
-        QTest::newRow("AsymIconDarkThemeSecondaryVertical") << 0x546 << true << true;
         QTest::newRow("AsymSecondaryHorizontalWithoutSplit") << 0x43 << false << true;
     }
 

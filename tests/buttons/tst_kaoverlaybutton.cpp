@@ -21,11 +21,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("ltr");
         QTest::addColumn<QString>("rtl");
         QTest::newRow("expand") << int(KaOverlayButtonEnum::ExpandAreaOverlay)
-                                << "qrc:/Resources/arrow-right-bold.svg"
-                                << "qrc:/Resources/arrow-left-bold.svg";
+                                << QStringLiteral("qrc:/Resources/arrow-right-bold.svg")
+                                << QStringLiteral("qrc:/Resources/arrow-left-bold.svg");
         QTest::newRow("collapse") << int(KaOverlayButtonEnum::CollapseAreaOverlay)
-                                  << "qrc:/Resources/arrow-left-bold.svg"
-                                  << "qrc:/Resources/arrow-right-bold.svg";
+                                  << QStringLiteral("qrc:/Resources/arrow-left-bold.svg")
+                                  << QStringLiteral("qrc:/Resources/arrow-right-bold.svg");
     }
 
     void arrowFollowsLayoutDirection() {

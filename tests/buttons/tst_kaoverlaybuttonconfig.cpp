@@ -3,11 +3,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace {
-const QString kRight = QStringLiteral("qrc:/Resources/arrow-right-bold.svg");
-const QString kLeft = QStringLiteral("qrc:/Resources/arrow-left-bold.svg");
-} // namespace
-
 class tst_KaOverlayButtonConfig : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -35,32 +30,6 @@ private Q_SLOTS:
         } else {
             QCOMPARE(record.colors, KaButtonConfigRecord::Colors());
         }
-    }
-
-    void arrowFollowsLayoutDirection_data() {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::addColumn<QString>("icon");
-        QTest::newRow("expand, ltr") << 1 << Qt::LeftToRight << kRight;
-        QTest::newRow("expand, rtl") << 1 << Qt::RightToLeft << kLeft;
-        QTest::newRow("collapse, ltr") << 2 << Qt::LeftToRight << kLeft;
-        QTest::newRow("collapse, rtl") << 2 << Qt::RightToLeft << kRight;
-        QTest::newRow("none, ltr") << 0 << Qt::LeftToRight << QString();
-        QTest::newRow("none, rtl") << 0 << Qt::RightToLeft << QString();
-    }
-
-    void arrowFollowsLayoutDirection() {
-        QFETCH(int, type);
-        QFETCH(Qt::LayoutDirection, direction);
-        QFETCH(QString, icon);
-        KaOverlayButtonConfig config;
-        config.setType(KaOverlayButtonEnum::Type(type));
-
-        KaOverlayButtonConfig::Geometry g;
-        config.fillGeometry(g, direction);
-        QCOMPARE(g.svgIcon, icon);
-        QCOMPARE(g.svgIconAlignment, BzEnum::AlignCenter);
-        // The application's direction at run time: tst_kaoverlaybutton.
     }
 
     void sizeNotifiesOnlyOnChange() {

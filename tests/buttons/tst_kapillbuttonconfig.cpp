@@ -51,8 +51,6 @@ private Q_SLOTS:
         QTest::newRow("Large, none") << 1 << false << false << QSize(0, 0) << 0 << QSize(0, 0) << 0;
         QTest::newRow("Large, left") << 1 << true << false << QSize(16, 16) << 6 << QSize(0, 0) << 0;
         QTest::newRow("Large, right") << 1 << false << true << QSize(0, 0) << 0 << QSize(16, 16) << 6;
-        QTest::newRow("ExtraLarge, right") << 0 << false << true << QSize(0, 0) << 0 << QSize(20, 20) << 6;
-        QTest::newRow("ExtraSmall, left") << 4 << true << false << QSize(16, 16) << 4 << QSize(0, 0) << 0;
     }
 
     void missingIcons() {
@@ -106,7 +104,6 @@ private Q_SLOTS:
     void widthPolicy_data() {
         QTest::addColumn<int>("policy");
         QTest::newRow("Expanding") << int(QSizePolicy::Expanding);
-        QTest::newRow("Preferred") << int(QSizePolicy::Preferred);
         QTest::newRow("Maximum again") << int(QSizePolicy::Maximum);
     }
 

@@ -19,14 +19,6 @@ private Q_SLOTS:
         QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     }
 
-    void designerDefaults() {
-        KaRoundBadgeButton button;
-        QCOMPARE(button.style(), KaButtonEnum::Join);
-        QCOMPARE(button.size(), KaButtonEnum::ExtraSmall);
-        QCOMPARE(button.maximumSize(), QSize(28, 28));
-        QVERIFY(!button.counterBadge() && !button.iconBadge());
-    }
-
     void counterAtTrailingCorner_data() {
         QTest::addColumn<bool>("rtl");
         QTest::newRow("left to right") << false;

@@ -25,7 +25,6 @@ private Q_SLOTS:
     void refusesRightIcon_data() {
         QTest::addColumn<bool>("value");
         QTest::newRow("true") << true;
-        QTest::newRow("false") << false;
     }
 
     void refusesRightIcon() {

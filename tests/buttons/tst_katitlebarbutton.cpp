@@ -98,7 +98,6 @@ private Q_SLOTS:
 
     void colourSets_data() {
         QTest::addColumn<int>("type");
-        QTest::newRow("minimise") << int(Config::Minimize);
         QTest::newRow("maximise") << int(Config::Maximize);
         QTest::newRow("close") << int(Config::Close);
     }

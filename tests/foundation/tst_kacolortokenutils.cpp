@@ -1,7 +1,6 @@
 #include "kacolortokenutils.h"
 
 #include <QFile>
-#include <QRegularExpression>
 #include <QTest>
 
 #include <climits>
@@ -33,15 +32,6 @@ private Q_SLOTS:
                 KaColorTokenUtils::tokenToStdString(static_cast<Karvox::Token>(value));
             // std::string compares as unsigned bytes: '-' < 'A'..'Z' < 'a'..'z'.
             QVERIFY2(previous < current, (previous + " >= " + current).c_str());
-        }
-    }
-
-    // A component word, then one or more "-" segments (camel case and digits allowed).
-    void nameForm() {
-        const QRegularExpression form(QStringLiteral("^[a-z][A-Za-z]*(-[A-Za-z0-9]+)+$"));
-        for (int value = 0; value < Karvox::TokenCount; ++value) {
-            const QString name = KaColorTokenUtils::tokenToString(static_cast<Karvox::Token>(value));
-            QVERIFY2(form.match(name).hasMatch(), qPrintable(name));
         }
     }
 

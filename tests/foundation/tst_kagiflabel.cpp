@@ -99,7 +99,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::newRow("missing") << QStringLiteral("/nonexistent/spinner.gif");
         QTest::newRow("corrupt") << QFINDTESTDATA("data/corrupt.gif");
-        QTest::newRow("missing resource") << QStringLiteral("qrc:/nothing/here.gif");
     }
 
     void unreadableFile() {

@@ -92,7 +92,6 @@ private Q_SLOTS:
 
         const QString longText =
             QStringLiteral("A sentence long enough to need wrapping in a narrow label, surely.");
-        QTest::newRow("abc") << "abc" << 0 << true << false << QWIDGETSIZE_MAX << -2 << true;
         QTest::newRow("abc, margin 5") << "abc" << 5 << true << false << QWIDGETSIZE_MAX << -2 << true;
         QTest::newRow("empty") << "" << 0 << true << false << QWIDGETSIZE_MAX << 1 << true;
         QTest::newRow("auto-resize off") << "abc" << 3 << false << false << QWIDGETSIZE_MAX << -1 << true;
@@ -150,21 +149,6 @@ private Q_SLOTS:
         QVERIFY(label.sizeHint().width() < QFontMetrics(label.font()).boundingRect(html).width());
     }
 
-    void autoResizeToggle() {
-        KaLabel label(QStringLiteral("abc"));
-        label.setMargin(4);
-        const QSize automatic = label.sizeHint();
-        label.setAutoResize(false);
-        QVERIFY(!label.autoResize());
-        QLabel reference(QStringLiteral("abc"));
-        reference.setFont(label.font());
-        reference.setMargin(4);
-        QCOMPARE(label.sizeHint(), reference.sizeHint());
-        QVERIFY(label.sizeHint() != automatic);
-        label.setAutoResize(true);
-        QCOMPARE(label.sizeHint(), automatic);
-    }
-
     void copy_data() {
         QTest::addColumn<bool>("select");
         QTest::addColumn<int>("key");
@@ -177,10 +161,6 @@ private Q_SLOTS:
         QTest::newRow("Ctrl+Shift+C")
             << true << int(Qt::Key_C) << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::ShiftModifier)
             << false << true;
-        QTest::newRow("Ctrl+Alt+C") << true << int(Qt::Key_C)
-                                    << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::AltModifier) << false
-                                    << true;
-        QTest::newRow("C alone") << true << int(Qt::Key_C) << Qt::KeyboardModifiers() << false << true;
         QTest::newRow("Ctrl+X") << true << int(Qt::Key_X) << Qt::KeyboardModifiers(Qt::ControlModifier)
                                 << false << true;
         QTest::newRow("Ctrl+C without selection")

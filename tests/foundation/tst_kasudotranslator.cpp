@@ -27,8 +27,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expected");
         QTest::newRow("two characters") << QByteArray("OK") << QStringLiteral("OK OK");
         QTest::newRow("empty") << QByteArray("") << QStringLiteral(" ");
-        QTest::newRow("sentence") << QByteArray("Save changes?")
-                                  << QStringLiteral("Save changes? Save changes?");
         QTest::newRow("placeholders")
             << QByteArray("%1, %2 of %3") << QStringLiteral("%1, %2 of %3 %1, %2 of %3");
         QTest::newRow("UTF-8") << QByteArray("Gr\xc3\xb6\xc3\x9f"

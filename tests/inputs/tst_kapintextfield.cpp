@@ -79,12 +79,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("from");
         QTest::addColumn<QString>("clipboard");
         QTest::addColumn<QString>("code");
-        QTest::newRow("whole code fills from the first box") << 3 << "987 654"
-                                                             << "987654";
-        QTest::newRow("part fills from the current box") << 2 << "4-5"
-                                                         << "45";
-        QTest::newRow("letters fill nothing") << 0 << "12a456"
-                                              << "";
+        QTest::newRow("whole code fills from the first box")
+            << 3 << QStringLiteral("987 654") << QStringLiteral("987654");
+        QTest::newRow("part fills from the current box")
+            << 2 << QStringLiteral("4-5") << QStringLiteral("45");
+        QTest::newRow("letters fill nothing") << 0 << QStringLiteral("12a456") << QStringLiteral("");
     }
     void paste() {
         QFETCH(int, from);
@@ -129,8 +128,8 @@ private Q_SLOTS:
 
     void setTextRejectsNonCodes_data() {
         QTest::addColumn<QString>("code");
-        QTest::newRow("letters") << "12ab";
-        QTest::newRow("too long") << "1234567";
+        QTest::newRow("letters") << QStringLiteral("12ab");
+        QTest::newRow("too long") << QStringLiteral("1234567");
     }
     void setTextRejectsNonCodes() {
         QFETCH(QString, code);

@@ -45,26 +45,16 @@ private Q_SLOTS:
         QTest::addColumn<QString>("pasted");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("counter");
-        QTest::newRow("no limit") << 0 << "abc"
-                                  << "defgh"
-                                  << "abcdefgh"
-                                  << "";
-        QTest::newRow("typing stops at the limit") << 5 << "abcdefg"
-                                                   << ""
-                                                   << "abcde"
-                                                   << "5/5";
-        QTest::newRow("paste is cut at the limit") << 5 << "ab"
-                                                   << "cdefgh"
-                                                   << "abcde"
-                                                   << "5/5";
-        QTest::newRow("under the limit") << 10 << "ab"
-                                         << ""
-                                         << "ab"
-                                         << "2/10";
-        QTest::newRow("negative means none") << -3 << "abc"
-                                             << ""
-                                             << "abc"
-                                             << "";
+        QTest::newRow("no limit") << 0 << QStringLiteral("abc") << QStringLiteral("defgh")
+                                  << QStringLiteral("abcdefgh") << QStringLiteral("");
+        QTest::newRow("typing stops at the limit") << 5 << QStringLiteral("abcdefg") << QStringLiteral("")
+                                                   << QStringLiteral("abcde") << QStringLiteral("5/5");
+        QTest::newRow("paste is cut at the limit") << 5 << QStringLiteral("ab") << QStringLiteral("cdefgh")
+                                                   << QStringLiteral("abcde") << QStringLiteral("5/5");
+        QTest::newRow("under the limit") << 10 << QStringLiteral("ab") << QStringLiteral("")
+                                         << QStringLiteral("ab") << QStringLiteral("2/10");
+        QTest::newRow("negative means none") << -3 << QStringLiteral("abc") << QStringLiteral("")
+                                             << QStringLiteral("abc") << QStringLiteral("");
     }
     void characterLimit() {
         QFETCH(int, limit);

@@ -67,12 +67,10 @@ private Q_SLOTS:
         QTest::addColumn<bool>("movesFocus");
         QTest::newRow("space") << int(Qt::Key_Space) << true << false << false;
         QTest::newRow("backspace") << int(Qt::Key_Backspace) << true << false << false;
-        QTest::newRow("delete") << int(Qt::Key_Delete) << true << false << false;
         QTest::newRow("left") << int(Qt::Key_Left) << false << true << false;
         QTest::newRow("right") << int(Qt::Key_Right) << false << true << false;
         // The push button moves the focus on with Up and Down.
         QTest::newRow("up") << int(Qt::Key_Up) << false << false << true;
-        QTest::newRow("down") << int(Qt::Key_Down) << false << false << true;
     }
 
     void keys() {

@@ -93,7 +93,6 @@ private Q_SLOTS:
         QCOMPARE(iface->role(), QAccessible::PopupMenu);
         QVERIFY(iface->text(QAccessible::Name).startsWith(QStringLiteral("Context menu options")));
         QCOMPARE(iface->child(0)->text(QAccessible::Name), QStringLiteral("Copy"));
-        QCOMPARE(menu.fontToken(), BzFont::BodySmall);
     }
 };
 

@@ -17,16 +17,11 @@ private Q_SLOTS:
     void badgesJoinTheName_data() {
         QTest::addColumn<QString>("badge"); // "count N", "word W", "icon", "none"
         QTest::addColumn<QString>("name");
-        QTest::newRow("count") << "count 3"
-                               << "Chat, 3";
-        QTest::newRow("count over the cap") << "count 120"
-                                            << "Chat, 120";
-        QTest::newRow("word") << "word New"
-                              << "Chat, New";
-        QTest::newRow("icon") << "icon"
-                              << "Chat, mention";
-        QTest::newRow("cleared") << "none"
-                                 << "Chat";
+        QTest::newRow("count") << QStringLiteral("count 3") << QStringLiteral("Chat, 3");
+        QTest::newRow("count over the cap") << QStringLiteral("count 120") << QStringLiteral("Chat, 120");
+        QTest::newRow("word") << QStringLiteral("word New") << QStringLiteral("Chat, New");
+        QTest::newRow("icon") << QStringLiteral("icon") << QStringLiteral("Chat, mention");
+        QTest::newRow("cleared") << QStringLiteral("none") << QStringLiteral("Chat");
     }
     void badgesJoinTheName() {
         QFETCH(QString, badge);

@@ -95,11 +95,9 @@ private Q_SLOTS:
         const int ltr = Qt::LeftToRight;
         const int rtl = Qt::RightToLeft;
         QTest::newRow("right") << ltr << 1 << int(Qt::Key_Right) << 2;
-        QTest::newRow("left") << ltr << 1 << int(Qt::Key_Left) << 0;
         QTest::newRow("left at start") << ltr << 0 << int(Qt::Key_Left) << 0;
         QTest::newRow("right at end") << ltr << 4 << int(Qt::Key_Right) << 4;
         QTest::newRow("home") << ltr << 3 << int(Qt::Key_Home) << 0;
-        QTest::newRow("end") << ltr << 1 << int(Qt::Key_End) << 4;
         QTest::newRow("rtl left") << rtl << 1 << int(Qt::Key_Left) << 2;
         QTest::newRow("rtl right") << rtl << 1 << int(Qt::Key_Right) << 0;
     }

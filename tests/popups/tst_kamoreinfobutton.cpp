@@ -41,9 +41,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("direction");
         QTest::addColumn<int>("expected");
         QTest::newRow("none opens below") << int(KaPopupEnum::None) << int(KaPopupEnum::Bottom);
-        QTest::newRow("above") << int(KaPopupEnum::Top) << int(KaPopupEnum::Top);
         QTest::newRow("left") << int(KaPopupEnum::Left) << int(KaPopupEnum::Left);
-        QTest::newRow("right") << int(KaPopupEnum::Right) << int(KaPopupEnum::Right);
     }
 
     void popoverSideFollowsDirection() {

@@ -36,7 +36,6 @@ private Q_SLOTS:
         QTest::addColumn<BzThemeUtils::AppThemeType>("type");
         QTest::newRow("light") << BzThemeUtils::Light;
         QTest::newRow("dark") << BzThemeUtils::Dark;
-        QTest::newRow("high contrast") << BzThemeUtils::HighContrast;
     }
 
     // The text is the template resolved for the theme type and names the

@@ -16,29 +16,6 @@
 #include <QTest>
 #include <QWidgetAction>
 
-// Menus described in .qml files, loaded through the built KarvexWrapper
-// module and popped up as native menus.
-class tst_QmlKaMenuData : public QObject {
-    Q_OBJECT
-private Q_SLOTS:
-    void init();
-    void cleanup();
-    void buildsEntriesFromDescriptions();
-    void forwardsTheEntrySignals();
-    void activeFollowsTheMenu();
-    void attacheeNotAnItemShowsNothing();
-    void descriptionDestroyedWhileOpen_data();
-    void descriptionDestroyedWhileOpen();
-    void popupTwiceInARow();
-    void anchorDestroyedWithItsParent();
-
-private:
-    QQuickItem* load(const char* file);
-    QmlKaMenuData* attached() const;
-
-    std::unique_ptr<QQuickView> m_view;
-};
-
 namespace {
 KaMenu* openMenu() {
     return qobject_cast<KaMenu*>(QApplication::activePopupWidget());
@@ -88,169 +65,173 @@ void closeAllMenus() {
 }
 } // namespace
 
-void tst_QmlKaMenuData::init() {
-    m_view = std::make_unique<QQuickView>();
-    m_view->engine()->addImportPath(QStringLiteral(KARVEX_QML_IMPORT_DIR));
-}
-
-void tst_QmlKaMenuData::cleanup() {
-    closeAllMenus();
-    m_view.reset();
-    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty() ||
-                !std::any_of(QApplication::topLevelWidgets().cbegin(), QApplication::topLevelWidgets().cend(),
-                             [](QWidget* w) { return qobject_cast<KaMenu*>(w); }));
-}
-
-QQuickItem* tst_QmlKaMenuData::load(const char* file) {
-    m_view->setSource(QUrl::fromLocalFile(QStringLiteral(KARVEX_QML_TEST_DIR "/") + QLatin1String(file)));
-    if (m_view->status() != QQuickView::Ready) {
-        qWarning() << m_view->errors();
-        return nullptr;
+// Menus described in .qml files, loaded through the built KarvexWrapper
+// module and popped up as native menus.
+class tst_QmlKaMenuData : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() {
+        m_view = std::make_unique<QQuickView>();
+        m_view->engine()->addImportPath(QStringLiteral(KARVEX_QML_IMPORT_DIR));
     }
-    m_view->show();
-    return m_view->rootObject();
-}
 
-QmlKaMenuData* tst_QmlKaMenuData::attached() const {
-    auto* anchor = m_view->rootObject()->findChild<QQuickItem*>(QStringLiteral("anchor"));
-    return anchor ? qobject_cast<QmlKaMenuData*>(qmlAttachedPropertiesObject<QmlKaMenuData>(anchor, false))
-                  : nullptr;
-}
-
-void tst_QmlKaMenuData::buildsEntriesFromDescriptions() {
-    QVERIFY(load("menu.qml"));
-    QmlKaMenuData* data = attached();
-    QVERIFY(data);
-    QCOMPARE(data->menuObjects().size(), 9);
-    QVERIFY(QMetaObject::invokeMethod(data, "doPopup"));
-    QTRY_VERIFY(openMenu());
-    // Invisible items vanish with their sub-tree, a separator with neither
-    // text nor line and a banner without text add nothing, strangers are
-    // skipped, and the model's rows follow the list.
-    QCOMPARE(describe(openMenu()),
-             QStringList({"copy", "more", "#header", "-", "#group", "=", "banner:Try it", "=", "row", "-"}));
-    QMenu* sub = actionNamed(openMenu(), QStringLiteral("more"))->menu();
-    QVERIFY(sub);
-    QCOMPARE(describe(sub), QStringList({"child"}));
-}
-
-void tst_QmlKaMenuData::forwardsTheEntrySignals() {
-    QObject* root = load("menu.qml");
-    QVERIFY(root);
-    QVERIFY(QMetaObject::invokeMethod(attached(), "doPopup"));
-    QTRY_VERIFY(openMenu());
-    KaMenu* menu = openMenu();
-    auto* copy = root->findChild<QmlKaMenuItemData*>(QStringLiteral("copy"));
-    QSignalSpy hovered(copy, &QmlKaMenuItemData::hovered);
-    actionNamed(menu, QStringLiteral("copy"))->hover();
-    QCOMPARE(hovered.count(), 1);
-    actionNamed(menu, QStringLiteral("row"))->trigger();
-    QCOMPARE(root->property("lastTriggered").toString(), QStringLiteral("row"));
-
-    QAction* child = actionNamed(actionNamed(menu, QStringLiteral("more"))->menu(), QStringLiteral("child"));
-    child->trigger();
-    QCOMPARE(root->property("lastToggled").toBool(), true);
-    child->trigger();
-    QCOMPARE(root->property("lastToggled").toBool(), false);
-
-    auto* description = root->findChild<QmlKaDiscoverabilityBannerData*>(QStringLiteral("banner"));
-    QSignalSpy dismissed(description, &QmlKaDiscoverabilityBannerData::dismissed);
-    for (QAction* action : menu->actions()) {
-        if (KaDiscoverabilityBanner* banner = bannerOf(action))
-            banner->findChild<QAbstractButton*>(QStringLiteral("dismissButton"))->click();
+    void cleanup() {
+        closeAllMenus();
+        m_view.reset();
+        QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty() ||
+                    !std::any_of(QApplication::topLevelWidgets().cbegin(),
+                                 QApplication::topLevelWidgets().cend(),
+                                 [](QWidget* w) { return qobject_cast<KaMenu*>(w); }));
     }
-    QCOMPARE(dismissed.count(), 1);
-}
 
-void tst_QmlKaMenuData::activeFollowsTheMenu() {
-    QVERIFY(load("menu.qml"));
-    QmlKaMenuData* data = attached();
-    QSignalSpy active(data, &QmlKaMenuData::activeChanged);
-    data->doPopup(false);
-    QTRY_VERIFY(data->active());
-    QPointer<KaMenu> menu = openMenu();
-    QCOMPARE(active.count(), 1);
-    menu->close();
-    QTRY_VERIFY(!data->active());
-    QCOMPARE(active.count(), 2);
-    // The menu deletes itself on close; the descriptions stay.
-    QTRY_VERIFY(!menu);
-    QCOMPARE(data->menuObjects().size(), 9);
-}
+    void buildsEntriesFromDescriptions() {
+        QVERIFY(load("menu.qml"));
+        QmlKaMenuData* data = attached();
+        QVERIFY(data);
+        QCOMPARE(data->menuObjects().size(), 9);
+        // Twice in a row: one menu, its entries not doubled.
+        QVERIFY(QMetaObject::invokeMethod(data, "doPopup"));
+        QVERIFY(QMetaObject::invokeMethod(data, "doPopup"));
+        QTRY_VERIFY(openMenu());
+        // Invisible items vanish with their sub-tree, a separator with neither
+        // text nor line and a banner without text add nothing, strangers are
+        // skipped, and the model's rows follow the list.
+        QCOMPARE(describe(openMenu()), QStringList({"copy", "more", "#header", "-", "#group", "=",
+                                                    "banner:Try it", "=", "row", "-"}));
+        QMenu* sub = actionNamed(openMenu(), QStringLiteral("more"))->menu();
+        QVERIFY(sub);
+        QCOMPARE(describe(sub), QStringList({"child"}));
+    }
 
-void tst_QmlKaMenuData::attacheeNotAnItemShowsNothing() {
-    QTest::ignoreMessage(QtWarningMsg, "QmlKaMenuData parent needs to be QQuickItem.");
-    QObject* root = load("notanitem.qml");
-    QVERIFY(root);
-    auto* holder = root->property("holder").value<QObject*>();
-    auto* data = qobject_cast<QmlKaMenuData*>(qmlAttachedPropertiesObject<QmlKaMenuData>(holder, false));
-    QVERIFY(data);
-    QCOMPARE(data->menuObjects().size(), 1);
-    QTest::ignoreMessage(QtWarningMsg, "Parent is not QQuickItem or is null.");
-    data->doPopup();
-    // Building and showing are synchronous: no menu now means none at all.
-    QVERIFY(!QApplication::activePopupWidget());
-    QVERIFY(!data->active());
-}
+    void forwardsTheEntrySignals() {
+        QObject* root = load("menu.qml");
+        QVERIFY(root);
+        QVERIFY(QMetaObject::invokeMethod(attached(), "doPopup"));
+        QTRY_VERIFY(openMenu());
+        KaMenu* menu = openMenu();
+        auto* copy = root->findChild<QmlKaMenuItemData*>(QStringLiteral("copy"));
+        QSignalSpy hovered(copy, &QmlKaMenuItemData::hovered);
+        actionNamed(menu, QStringLiteral("copy"))->hover();
+        QCOMPARE(hovered.count(), 1);
+        actionNamed(menu, QStringLiteral("row"))->trigger();
+        QCOMPARE(root->property("lastTriggered").toString(), QStringLiteral("row"));
 
-void tst_QmlKaMenuData::descriptionDestroyedWhileOpen_data() {
-    QTest::addColumn<QString>("name");
-    QTest::newRow("item") << QStringLiteral("copy");
-    QTest::newRow("model row") << QStringLiteral("row");
-    QTest::newRow("banner") << QStringLiteral("banner");
-    QTest::newRow("separator") << QStringLiteral("header");
-}
+        QAction* child =
+            actionNamed(actionNamed(menu, QStringLiteral("more"))->menu(), QStringLiteral("child"));
+        child->trigger();
+        QCOMPARE(root->property("lastToggled").toBool(), true);
+        child->trigger();
+        QCOMPARE(root->property("lastToggled").toBool(), false);
 
-void tst_QmlKaMenuData::descriptionDestroyedWhileOpen() {
-    QFETCH(QString, name);
-    QObject* root = load("menu.qml");
-    QVERIFY(root);
-    QmlKaMenuData* data = attached();
-    data->doPopup();
-    QTRY_VERIFY(openMenu());
-    KaMenu* menu = openMenu();
-    QObject* description = root->findChild<QObject*>(name);
-    QVERIFY(description);
-    const int rows = root->property("rowModel").value<KaMenuListModel*>()->count();
-    delete description;
-    QVERIFY(!data->menuObjects().contains(description));
-    QCOMPARE(root->property("rowModel").value<KaMenuListModel*>()->count(), rows - (name == "row" ? 1 : 0));
-    // The entry outlives its description; using it reaches nobody.
-    for (QAction* action : menu->actions())
-        action->hover();
-    if (QAction* action = actionNamed(menu, name))
-        action->trigger();
-    QCOMPARE(root->property("lastTriggered").toString(), QString());
-    menu->close();
-    QTRY_VERIFY(!data->active());
-}
+        auto* description = root->findChild<QmlKaDiscoverabilityBannerData*>(QStringLiteral("banner"));
+        QSignalSpy dismissed(description, &QmlKaDiscoverabilityBannerData::dismissed);
+        for (QAction* action : menu->actions()) {
+            if (KaDiscoverabilityBanner* banner = bannerOf(action))
+                banner->findChild<QAbstractButton*>(QStringLiteral("dismissButton"))->click();
+        }
+        QCOMPARE(dismissed.count(), 1);
+    }
 
-void tst_QmlKaMenuData::popupTwiceInARow() {
-    QVERIFY(load("menu.qml"));
-    QmlKaMenuData* data = attached();
-    data->doPopup();
-    data->doPopup();
-    QTRY_VERIFY(openMenu());
-    QCOMPARE(describe(openMenu()).size(), 10);
-    closeAllMenus();
-    QTRY_VERIFY(!data->active());
-}
+    void activeFollowsTheMenu() {
+        QVERIFY(load("menu.qml"));
+        QmlKaMenuData* data = attached();
+        QSignalSpy active(data, &QmlKaMenuData::activeChanged);
+        data->doPopup(false);
+        QTRY_VERIFY(data->active());
+        QPointer<KaMenu> menu = openMenu();
+        QCOMPARE(active.count(), 1);
+        menu->close();
+        QTRY_VERIFY(!data->active());
+        QCOMPARE(active.count(), 2);
+        // The menu deletes itself on close; the descriptions stay.
+        QTRY_VERIFY(!menu);
+        QCOMPARE(data->menuObjects().size(), 9);
+    }
 
-void tst_QmlKaMenuData::anchorDestroyedWithItsParent() {
-    QObject* root = load("menu.qml");
-    QVERIFY(root);
-    QPointer<QmlKaMenuData> data = attached();
-    data->doPopup();
-    QTRY_VERIFY(openMenu());
-    QPointer<KaMenu> menu = openMenu();
-    delete root->findChild<QQuickItem*>(QStringLiteral("anchorParent"));
-    QVERIFY(!data);
-    // The open menu goes on without its description object.
-    actionNamed(menu, QStringLiteral("row"))->trigger();
-    QCOMPARE(root->property("lastTriggered").toString(), QStringLiteral("row"));
-    menu->close();
-    QTRY_VERIFY(!menu);
-}
+    void attacheeNotAnItemShowsNothing() {
+        QTest::ignoreMessage(QtWarningMsg, "QmlKaMenuData parent needs to be QQuickItem.");
+        QObject* root = load("notanitem.qml");
+        QVERIFY(root);
+        auto* holder = root->property("holder").value<QObject*>();
+        auto* data = qobject_cast<QmlKaMenuData*>(qmlAttachedPropertiesObject<QmlKaMenuData>(holder, false));
+        QVERIFY(data);
+        QCOMPARE(data->menuObjects().size(), 1);
+        QTest::ignoreMessage(QtWarningMsg, "Parent is not QQuickItem or is null.");
+        data->doPopup();
+        // Building and showing are synchronous: no menu now means none at all.
+        QVERIFY(!QApplication::activePopupWidget());
+        QVERIFY(!data->active());
+    }
+
+    void descriptionDestroyedWhileOpen_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("item") << QStringLiteral("copy");
+        QTest::newRow("model row") << QStringLiteral("row");
+        QTest::newRow("banner") << QStringLiteral("banner");
+        QTest::newRow("separator") << QStringLiteral("header");
+    }
+
+    void descriptionDestroyedWhileOpen() {
+        QFETCH(QString, name);
+        QObject* root = load("menu.qml");
+        QVERIFY(root);
+        QmlKaMenuData* data = attached();
+        data->doPopup();
+        QTRY_VERIFY(openMenu());
+        KaMenu* menu = openMenu();
+        QObject* description = root->findChild<QObject*>(name);
+        QVERIFY(description);
+        const int rows = root->property("rowModel").value<KaMenuListModel*>()->count();
+        delete description;
+        QVERIFY(!data->menuObjects().contains(description));
+        QCOMPARE(root->property("rowModel").value<KaMenuListModel*>()->count(),
+                 rows - (name == "row" ? 1 : 0));
+        // The entry outlives its description; using it reaches nobody.
+        for (QAction* action : menu->actions())
+            action->hover();
+        if (QAction* action = actionNamed(menu, name))
+            action->trigger();
+        QCOMPARE(root->property("lastTriggered").toString(), QString());
+        menu->close();
+        QTRY_VERIFY(!data->active());
+    }
+
+    void anchorDestroyedWithItsParent() {
+        QObject* root = load("menu.qml");
+        QVERIFY(root);
+        QPointer<QmlKaMenuData> data = attached();
+        data->doPopup();
+        QTRY_VERIFY(openMenu());
+        QPointer<KaMenu> menu = openMenu();
+        delete root->findChild<QQuickItem*>(QStringLiteral("anchorParent"));
+        QVERIFY(!data);
+        // The open menu goes on without its description object.
+        actionNamed(menu, QStringLiteral("row"))->trigger();
+        QCOMPARE(root->property("lastTriggered").toString(), QStringLiteral("row"));
+        menu->close();
+        QTRY_VERIFY(!menu);
+    }
+
+private:
+    QQuickItem* load(const char* file) {
+        m_view->setSource(QUrl::fromLocalFile(QStringLiteral(KARVEX_QML_TEST_DIR "/") + QLatin1String(file)));
+        if (m_view->status() != QQuickView::Ready) {
+            qWarning() << m_view->errors();
+            return nullptr;
+        }
+        m_view->show();
+        return m_view->rootObject();
+    }
+
+    QmlKaMenuData* attached() const {
+        auto* anchor = m_view->rootObject()->findChild<QQuickItem*>(QStringLiteral("anchor"));
+        return anchor
+                   ? qobject_cast<QmlKaMenuData*>(qmlAttachedPropertiesObject<QmlKaMenuData>(anchor, false))
+                   : nullptr;
+    }
+
+    std::unique_ptr<QQuickView> m_view;
+};
 
 QTEST_MAIN(tst_QmlKaMenuData)
 #include "tst_qmlkamenudata.moc"

@@ -41,10 +41,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("pixelSize");
         QTest::newRow("outline normal") << int(KaComboBoxEnum::Outline) << int(KaComboBoxEnum::Normal)
                                         << "combobox-border" << 28 << 12 << 13;
-        QTest::newRow("outline large") << int(KaComboBoxEnum::Outline) << int(KaComboBoxEnum::Large)
-                                       << "combobox-border" << 32 << 18 << 14;
-        QTest::newRow("filled normal") << int(KaComboBoxEnum::Filled) << int(KaComboBoxEnum::Normal)
-                                       << "combobox-background" << 28 << 12 << 13;
         QTest::newRow("filled large") << int(KaComboBoxEnum::Filled) << int(KaComboBoxEnum::Large)
                                       << "combobox-background" << 32 << 18 << 14;
     }
@@ -82,9 +78,8 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("unknown (style|size)")));
         combo.setStyle(KaComboBoxEnum::Style(style));
         combo.setSize(KaComboBoxEnum::Size(size));
-        QCOMPARE(combo.style(),
-                 style == 2 || style == -1 ? KaComboBoxEnum::Filled : KaComboBoxEnum::Style(style));
-        QCOMPARE(combo.size(), size == 2 || size == -1 ? KaComboBoxEnum::Large : KaComboBoxEnum::Size(size));
+        QCOMPARE(combo.style(), KaComboBoxEnum::Filled);
+        QCOMPARE(combo.size(), KaComboBoxEnum::Large);
         QCOMPARE(combo.QWidget::size().height(), 32);
         QCOMPARE(combo.QWidget::styleSheet(), sheet);
         QCOMPARE(styleSpy.count() + sizeSpy.count(), 0);
