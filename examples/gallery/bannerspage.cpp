@@ -59,26 +59,6 @@ BannersPage::BannersPage(QWidget* parent)
     retranslateUi();
 }
 
-void BannersPage::onRetranslate(std::function<void()> apply) {
-    m_texts.push_back(std::move(apply));
-}
-
-KaLabelBase* BannersPage::addHeading(const char* source) {
-    KaLabelBase* label = GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Title);
-    GalleryUtils::markAsHeading(label);
-    contentLayout()->addSpacing(8);
-    contentLayout()->addWidget(label);
-    onRetranslate([label, source] { label->setText(tr(source)); });
-    return label;
-}
-
-KaLabelBase* BannersPage::addCaption(const char* source, QBoxLayout* layout) {
-    KaLabelBase* label = GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::BodySmall);
-    layout->addWidget(label);
-    onRetranslate([label, source] { label->setText(tr(source)); });
-    return label;
-}
-
 void BannersPage::addAlertSection() {
     addHeading(QT_TR_NOOP("Alert banners"));
     auto* grid = new QGridLayout;
@@ -250,6 +230,5 @@ void BannersPage::retranslateUi() {
         tr("Alert banners tell about a state in every type, style mode and layout; tags, badges and "
            "tips point at what is new; progress bars and spinners show work in progress. Every "
            "colour comes from the theme's banner, new-feature and spinner colour sets."));
-    for (const auto& apply : m_texts)
-        apply();
+    applyTexts();
 }

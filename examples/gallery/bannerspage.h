@@ -23,10 +23,4 @@ private:
     void addAlertSection();
     void addDiscoverabilitySection();
     void addProgressSection();
-    KaLabelBase* addHeading(const char* source);
-    KaLabelBase* addCaption(const char* source, QBoxLayout* layout);
-    // Runs now and again on every language change.
-    void onRetranslate(std::function<void()> apply);
-
-    std::vector<std::function<void()>> m_texts;
 };

@@ -91,3 +91,30 @@ void GalleryPage::insertSection(QWidget* heading, QWidget* content) {
     if (isVisible())
         GalleryUtils::alignLabelsToLayoutDirection(section);
 }
+
+void GalleryPage::onRetranslate(std::function<void()> apply) {
+    m_texts.push_back(std::move(apply));
+}
+
+void GalleryPage::applyTexts() {
+    for (const auto& apply : m_texts)
+        apply();
+}
+
+KaLabelBase* GalleryPage::addHeading(const char* source) {
+    KaLabelBase* label = GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Title);
+    GalleryUtils::markAsHeading(label);
+    contentLayout()->addSpacing(8);
+    contentLayout()->addWidget(label);
+    // The page's class is the translation context, as with its own tr().
+    onRetranslate([this, label, source] { label->setText(metaObject()->tr(source, nullptr)); });
+    return label;
+}
+
+KaLabelBase* GalleryPage::addCaption(const char* source, QBoxLayout* layout, bool wrap) {
+    KaLabelBase* label = GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::BodySmall);
+    label->setWordWrap(wrap);
+    layout->addWidget(label);
+    onRetranslate([this, label, source] { label->setText(metaObject()->tr(source, nullptr)); });
+    return label;
+}

@@ -2,7 +2,11 @@
 
 #include <QWidget>
 
+#include <functional>
+#include <vector>
+
 class KaLabelBase;
+class QBoxLayout;
 class QScrollArea;
 class QVBoxLayout;
 
@@ -38,6 +42,14 @@ protected:
     void setDescription(const QString& text);
     // Sets every user-visible text; call it at the end of the constructor.
     virtual void retranslateUi() = 0;
+    // Runs `apply` from every later applyTexts(), the page's own
+    // retranslateUi() calls that.
+    void onRetranslate(std::function<void()> apply);
+    void applyTexts();
+    // A section heading, and a caption added to `layout`; both translated
+    // in the page's own context.
+    KaLabelBase* addHeading(const char* source);
+    KaLabelBase* addCaption(const char* source, QBoxLayout* layout, bool wrap = false);
 
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -48,4 +60,5 @@ private:
     KaLabelBase* m_description;
     QScrollArea* m_scrollArea;
     QVBoxLayout* m_contentLayout;
+    std::vector<std::function<void()>> m_texts;
 };

@@ -58,27 +58,6 @@ MenusPage::MenusPage(QWidget* parent)
     retranslateUi();
 }
 
-void MenusPage::onRetranslate(std::function<void()> apply) {
-    m_texts.push_back(std::move(apply));
-}
-
-KaLabelBase* MenusPage::addHeading(const char* source) {
-    KaLabelBase* label = GalleryUtils::createLabel(QStringLiteral("label-primary-text"), BzFont::Title);
-    GalleryUtils::markAsHeading(label);
-    contentLayout()->addSpacing(8);
-    contentLayout()->addWidget(label);
-    onRetranslate([label, source] { label->setText(tr(source)); });
-    return label;
-}
-
-KaLabelBase* MenusPage::addCaption(const char* source, QBoxLayout* layout) {
-    KaLabelBase* label = GalleryUtils::createLabel(QStringLiteral("label-secondary-text"), BzFont::BodySmall);
-    label->setWordWrap(true);
-    layout->addWidget(label);
-    onRetranslate([label, source] { label->setText(tr(source)); });
-    return label;
-}
-
 KaPillButton* MenusPage::addMenuButton(KaPopupEnum::Alignment alignment, bool arrow, bool rich) {
     auto* button = new KaPillButton(nullptr, KaButtonEnum::Secondary, KaButtonEnum::Normal);
     button->setRightIcon(QStringLiteral("qrc:/Resources/arrow-down-light.svg"));
@@ -90,7 +69,7 @@ void MenusPage::addAlignmentSection() {
     addHeading(QT_TR_NOOP("Menu buttons"));
     auto* column = new QVBoxLayout;
     addCaption(QT_TR_NOOP("A menu opens on the requested side of its button, with or without an arrow."),
-               column);
+               column, true);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(8);
@@ -115,7 +94,7 @@ void MenusPage::addStyleSection() {
     auto* column = new QVBoxLayout;
     addCaption(QT_TR_NOOP("Normal menus have slightly rounded entries; circular ones round them more as "
                           "the size grows. Entries are 32, 40 or 50 pixels high."),
-               column);
+               column, true);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(8);
@@ -144,7 +123,7 @@ void MenusPage::addRichSection() {
     auto* column = new QVBoxLayout;
     addCaption(QT_TR_NOOP("Icons, sub-texts, badges, \"new\" labels, a tip, headers, separators, sub-menus, "
                           "checkable, disabled and alert entries, and an entry with a popover."),
-               column);
+               column, true);
     auto* row = new QHBoxLayout;
     KaPillButton* rich = addMenuButton(KaPopupEnum::Bottom, true, true);
     onRetranslate([rich] { rich->setText(tr("Conversation options")); });
@@ -186,7 +165,7 @@ void MenusPage::addEdgeSection() {
     auto* column = new QVBoxLayout;
     addCaption(QT_TR_NOOP("Each button asks for the side towards its edge of the window; near a screen edge "
                           "the menu flips to the other side."),
-               column);
+               column, true);
     auto* grid = new QGridLayout;
     const struct {
         KaPopupEnum::Alignment alignment;
@@ -298,8 +277,7 @@ void MenusPage::rebuildMenus() {
 void MenusPage::retranslateUi() {
     setDescription(tr("Menus drawn as popup bubbles: entries with icons, sub-texts, badges and popovers, "
                       "section headers read out per section, and placement that keeps the menu on screen."));
-    for (const auto& apply : m_texts)
-        apply();
+    applyTexts();
     rebuildMenus();
 }
 

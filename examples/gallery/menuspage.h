@@ -48,16 +48,12 @@ private:
     void addContextSection();
     void addEdgeSection();
     void addChipsSection();
-    KaLabelBase* addHeading(const char* source);
-    KaLabelBase* addCaption(const char* source, QBoxLayout* layout);
     KaPillButton* addMenuButton(KaPopupEnum::Alignment alignment, bool arrow, bool rich);
-    void onRetranslate(std::function<void()> apply);
     // Menus hold their texts: they are built again for a new language.
     void rebuildMenus();
     KaMenu* buildSimpleMenu();
     KaMenu* buildRichMenu();
 
-    std::vector<std::function<void()>> m_texts;
     std::vector<MenuButton> m_buttons;
     QWidget* m_contextArea = nullptr;
 };
