@@ -8,6 +8,16 @@
 #include <QTest>
 #include <QWidget>
 
+namespace {
+// A handle whose anchor, a `T`, is already deleted.
+template <typename T> KaControlHandle deadHandle() {
+    auto* anchor = new T;
+    const KaControlHandle handle(anchor);
+    delete anchor;
+    return handle;
+}
+} // namespace
+
 class tst_KaControlHandle : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -71,20 +81,9 @@ private Q_SLOTS:
 
     void anchorDeleted() {
         QFETCH(int, kind);
-        KaControlHandle handle;
-        if (kind == KaControlHandle::Widget) {
-            auto* widget = new QWidget;
-            handle = KaControlHandle(widget);
-            delete widget;
-        } else if (kind == KaControlHandle::Button) {
-            auto* button = new QPushButton;
-            handle = KaControlHandle(button);
-            delete button;
-        } else {
-            auto* item = new QQuickItem;
-            handle = KaControlHandle(item);
-            delete item;
-        }
+        const KaControlHandle handle = kind == KaControlHandle::Widget   ? deadHandle<QWidget>()
+                                       : kind == KaControlHandle::Button ? deadHandle<QPushButton>()
+                                                                         : deadHandle<QQuickItem>();
         QCOMPARE(int(handle.kind()), kind);
         QVERIFY(!handle.isValid());
         QVERIFY(handle.globalRect().isNull());

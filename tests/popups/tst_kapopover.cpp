@@ -74,11 +74,17 @@ private Q_SLOTS:
     void init() {
         BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
         AccessibilityRecorder::clear();
+        f = std::make_unique<Fixture>();
+        QVERIFY(f->ready());
     }
 
+    // Popovers still open are closed before their window goes; those that
+    // closed themselves are deleted later.
     void cleanup() {
-        // Popovers that closed themselves are deleted later.
+        for (KaPopover* popover : f->window.findChildren<KaPopover*>())
+            popover->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        f.reset();
     }
 
     void placement_data() {
@@ -97,13 +103,11 @@ private Q_SLOTS:
         const auto position = KaWidgetData::ArrowPostion(arrow);
         const bool none = position == KaWidgetData::ArrowNone;
         QCOMPARE(KaPopover::toAlignment(position), none ? KaPopupEnum::None : side);
-        Fixture f;
-        QVERIFY(f.ready());
-        QPointer<KaPopover> popover = f.show(QStringLiteral("Hello"), KaWidgetData().arrowPostion(position));
+        QPointer<KaPopover> popover = f->show(QStringLiteral("Hello"), KaWidgetData().arrowPostion(position));
         QVERIFY(popover->isVisible());
         QCOMPARE(popover->arrowPosition(), position);
         QCOMPARE(popover->shownAlignment(), side);
-        const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
+        const QRect anchor(f->anchor.mapToGlobal(QPoint(0, 0)), f->anchor.size());
         const QRect body = popover->bodyRect().translated(popover->pos());
         // Without an arrow the body itself comes up to the gap.
         const int gap = KaPopupUtils::AnchorGap + (none ? 0 : KaPopupUtils::ArrowLength);
@@ -140,7 +144,6 @@ private Q_SLOTS:
                                     KaPopupUtils::ArrowLength);
         // The arrow band moved to the edge that faces the anchor.
         QCOMPARE(popover->bodyRect(), KaPopupUtils::bodyRect(popover->size(), KaPopupEnum::Top, true));
-        popover->close();
     }
 
     void alignmentAlongEdge_data() {
@@ -154,43 +157,34 @@ private Q_SLOTS:
     void alignmentAlongEdge() {
         QFETCH(int, alignment);
         QFETCH(int, arrow);
-        Fixture f;
-        QVERIFY(f.ready());
         const KaWidgetData data = KaWidgetData()
                                       .alignment(KaWidgetData::Alignment(alignment))
                                       .arrowPostion(KaWidgetData::ArrowPostion(arrow));
-        QPointer<KaPopover> popover = f.show(kLongText, data);
-        const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
+        QPointer<KaPopover> popover = f->show(kLongText, data);
+        const QRect anchor(f->anchor.mapToGlobal(QPoint(0, 0)), f->anchor.size());
         const QRect body = popover->bodyRect().translated(popover->pos());
         const bool start = alignment == KaWidgetData::AlignStart;
         if (arrow == KaWidgetData::ArrowTop)
             QCOMPARE(start ? body.left() : body.right(), start ? anchor.left() : anchor.right());
         else
             QCOMPARE(start ? body.top() : body.bottom(), start ? anchor.top() : anchor.bottom());
-        popover->close();
     }
 
     void offsetMoves() {
-        Fixture f;
-        QVERIFY(f.ready());
-        QCOMPARE(f.open(KaWidgetData().offset(QPoint(5, -7)))->pos(), f.open()->pos() + QPoint(5, -7));
+        QCOMPARE(f->open(KaWidgetData().offset(QPoint(5, -7)))->pos(), f->open()->pos() + QPoint(5, -7));
     }
 
     void fitInMainWindow() {
-        Fixture f;
-        QVERIFY(f.ready());
-        f.anchor.move(250, 90); // near the window's right edge
+        f->anchor.move(250, 90); // near the window's right edge
         const KaWidgetData data = KaWidgetData().arrowPostion(KaWidgetData::ArrowBottom);
         const QString wide = QStringLiteral("A fairly wide popover text");
-        QVERIFY(!f.window.geometry().contains(f.open(data, new KaLabel(wide))->geometry()));
-        const auto fitted = f.open(KaWidgetData(data).fitInMainWindowGeometry(true), new KaLabel(wide));
-        QCOMPARE(fitted->geometry().right(), f.window.geometry().right());
+        QVERIFY(!f->window.geometry().contains(f->open(data, new KaLabel(wide))->geometry()));
+        const auto fitted = f->open(KaWidgetData(data).fitInMainWindowGeometry(true), new KaLabel(wide));
+        QCOMPARE(fitted->geometry().right(), f->window.geometry().right());
     }
 
     void setArrowPosition() {
-        Fixture f;
-        QVERIFY(f.ready());
-        const auto owner = f.open();
+        const auto owner = f->open();
         KaPopover& popover = *owner;
         QSignalSpy spy(&popover, &KaPopover::arrowPositionChanged);
         const QPoint below = popover.pos();
@@ -208,9 +202,7 @@ private Q_SLOTS:
     }
 
     void textPopoverWraps() {
-        Fixture f;
-        QVERIFY(f.ready());
-        QPointer<KaPopover> popover = f.show(kLongText);
+        QPointer<KaPopover> popover = f->show(kLongText);
         auto* label = qobject_cast<KaLabel*>(popover->contentWidget());
         QVERIFY(label);
         QVERIFY(label->wordWrap());
@@ -222,34 +214,26 @@ private Q_SLOTS:
         QVERIFY(popover->bodyRect().contains(label->geometry()));
 
         // Wider side popovers keep the same body width.
-        QPointer<KaPopover> side = f.show(kLongText, KaWidgetData().arrowPostion(KaWidgetData::ArrowLeft));
+        QPointer<KaPopover> side = f->show(kLongText, KaWidgetData().arrowPostion(KaWidgetData::ArrowLeft));
         QCOMPARE(side->bodyRect().width(), KaWidgetData::maxPopoverWidth);
-        popover->close();
-        side->close();
     }
 
     void shortTextStaysNarrow() {
-        Fixture f;
-        QVERIFY(f.ready());
-        QPointer<KaPopover> popover = f.show(QStringLiteral("Hi"));
+        QPointer<KaPopover> popover = f->show(QStringLiteral("Hi"));
         auto* label = qobject_cast<KaLabel*>(popover->contentWidget());
         QVERIFY(popover->bodyRect().width() < KaWidgetData::maxPopoverWidth / 2);
         QCOMPARE(label->height(), label->sizeHint().height());
-        popover->close();
     }
 
     void headerText() {
-        Fixture f;
-        QVERIFY(f.ready());
         QPointer<KaPopover> popover =
-            f.show(QStringLiteral("Body"), KaWidgetData().headerText(QStringLiteral("Title")));
+            f->show(QStringLiteral("Body"), KaWidgetData().headerText(QStringLiteral("Title")));
         QVERIFY(popover->headerLabel());
         QCOMPARE(popover->headerLabel()->text(), QStringLiteral("Title"));
         QVERIFY(popover->headerLabel()->geometry().bottom() < popover->contentWidget()->geometry().top());
         QVERIFY(popover->headerLabel()->font().pixelSize() > popover->contentWidget()->font().pixelSize());
-        popover->close();
 
-        KaPopover bare(&f.anchor, &f.window);
+        KaPopover bare(&f->anchor, &f->window);
         QCOMPARE(bare.headerLabel(), nullptr);
     }
 
@@ -269,11 +253,9 @@ private Q_SLOTS:
         QFETCH(bool, form);
         QFETCH(QAccessible::Role, role);
         QFETCH(QStringList, announced);
-        Fixture f;
-        QVERIFY(f.ready());
         QWidget* content = form ? static_cast<QWidget*>(new QLineEdit) : new QLabel(QStringLiteral("Body"));
         QPointer<KaPopover> popover = KaPopover::createAndShow(
-            content, &f.anchor, &f.window,
+            content, &f->anchor, &f->window,
             KaWidgetData().headerText(QStringLiteral("Title")).shouldTakeFocus(takeFocus));
         QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(popover.data());
         QCOMPARE(iface->role(), role);
@@ -308,46 +290,40 @@ private Q_SLOTS:
     void autoDismiss() {
         QFETCH(bool, autoDismiss);
         QFETCH(bool, escape);
-        Fixture f;
-        QVERIFY(f.ready());
-        QPointer<KaPopover> popover = f.show(
+        QPointer<KaPopover> popover = f->show(
             QStringLiteral("x"), KaWidgetData().autoDismiss(autoDismiss).dismissWithParentFocused(false));
         QSignalSpy dismissed(popover.data(), &KaPopover::dismissed);
         // Clicks inside or on the anchor never dismiss.
         QTest::mouseClick(popover.data(), Qt::LeftButton, {}, popover->bodyRect().center());
-        QTest::mouseClick(&f.anchor, Qt::LeftButton);
+        QTest::mouseClick(&f->anchor, Qt::LeftButton);
         QVERIFY(popover->isVisible());
         if (escape)
             QTest::keyClick(popover.data(), Qt::Key_Escape);
         else
-            QTest::mouseClick(&f.other, Qt::LeftButton);
+            QTest::mouseClick(&f->other, Qt::LeftButton);
         if (autoDismiss) {
             QCOMPARE(dismissed.count(), 1);
             QTRY_VERIFY(popover.isNull());
         } else {
             QVERIFY(popover->isVisible());
             QCOMPARE(dismissed.count(), 0);
-            popover->close();
         }
     }
 
     void timedDismissal() {
-        Fixture f;
-        QVERIFY(f.ready());
         QElapsedTimer clock;
         clock.start();
-        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().dismissTimerTicks(3));
+        QPointer<KaPopover> popover = f->show(QStringLiteral("x"), KaWidgetData().dismissTimerTicks(3));
         QSignalSpy dismissed(popover.data(), &KaPopover::dismissed);
         QVERIFY(dismissed.wait(5000));
         QVERIFY(clock.elapsed() >= 3 * KaPopover::DismissTickMs - 20);
         QTRY_VERIFY(popover.isNull());
 
         // Without ticks it stays.
-        QPointer<KaPopover> lasting = f.show(QStringLiteral("x"));
+        QPointer<KaPopover> lasting = f->show(QStringLiteral("x"));
         QSignalSpy none(lasting.data(), &KaPopover::dismissed);
         QVERIFY(!none.wait(5 * KaPopover::DismissTickMs));
         QVERIFY(lasting->isVisible());
-        lasting->close();
     }
 
     void dismissWithParentFocused_data() {
@@ -366,20 +342,16 @@ private Q_SLOTS:
         QFETCH(bool, skipDeep);
         QFETCH(bool, focusParentItself);
         QFETCH(bool, dismissed);
-        Fixture f;
-        QVERIFY(f.ready());
-        f.window.setFocusPolicy(Qt::StrongFocus);
+        f->window.setFocusPolicy(Qt::StrongFocus);
         const KaWidgetData data =
             KaWidgetData().dismissWithParentFocused(dismissWithParentFocused).skipDeepFocusCheck(skipDeep);
-        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), data);
+        QPointer<KaPopover> popover = f->show(QStringLiteral("x"), data);
         QSignalSpy spy(popover.data(), &KaPopover::dismissed);
-        QWidget* target = focusParentItself ? &f.window : static_cast<QWidget*>(&f.other);
-        f.window.activateWindow();
+        QWidget* target = focusParentItself ? &f->window : static_cast<QWidget*>(&f->other);
+        f->window.activateWindow();
         target->setFocus(Qt::OtherFocusReason);
         QTRY_COMPARE(QApplication::focusWidget(), target);
         QCOMPARE(spy.count(), dismissed ? 1 : 0);
-        if (popover)
-            popover->close();
     }
 
     void sourceMove_data() {
@@ -393,21 +365,19 @@ private Q_SLOTS:
     void sourceMove() {
         QFETCH(bool, dismissOnMove);
         QFETCH(bool, moveWithSource);
-        Fixture f;
-        QVERIFY(f.ready());
         QPointer<KaPopover> popover =
-            f.show(QStringLiteral("x"),
-                   KaWidgetData().dismissPopupOnSourceMove(dismissOnMove).moveWithSource(moveWithSource));
+            f->show(QStringLiteral("x"),
+                    KaWidgetData().dismissPopupOnSourceMove(dismissOnMove).moveWithSource(moveWithSource));
         QSignalSpy spy(popover.data(), &KaPopover::dismissed);
         // Counts the window's move events: once one has arrived, the popover has
         // seen it too, so "nothing happened" below is a real observation.
         MoveCounter windowMoves;
-        f.window.installEventFilter(&windowMoves);
+        f->window.installEventFilter(&windowMoves);
         const QPoint before = popover->pos();
 
         // Other widgets moving is no concern of the popover.
-        f.other.move(f.other.pos() + QPoint(5, 5));
-        f.window.move(f.window.pos() + QPoint(-30, 20));
+        f->other.move(f->other.pos() + QPoint(5, 5));
+        f->window.move(f->window.pos() + QPoint(-30, 20));
         QTRY_VERIFY(windowMoves.moves > 0);
         if (dismissOnMove) {
             QTRY_COMPARE(spy.count(), 1);
@@ -418,10 +388,9 @@ private Q_SLOTS:
         QTRY_COMPARE(popover->pos(), moveWithSource ? before + QPoint(-30, 20) : before);
 
         // Moving the anchor inside its window counts as well (delivered at once).
-        f.anchor.move(f.anchor.pos() + QPoint(10, 0));
+        f->anchor.move(f->anchor.pos() + QPoint(10, 0));
         QCOMPARE(popover->pos().x(), moveWithSource ? before.x() - 30 + 10 : before.x());
         QCOMPARE(spy.count(), 0);
-        popover->close();
     }
 
     void focusSourceOnClose_data() {
@@ -431,45 +400,38 @@ private Q_SLOTS:
     }
     void focusSourceOnClose() {
         QFETCH(bool, focusSource);
-        Fixture f;
-        QVERIFY(f.ready());
         // The window would give focus back to its own focus widget anyway.
-        f.window.activateWindow();
-        f.other.setFocus();
-        QTRY_VERIFY(f.other.hasFocus());
+        f->window.activateWindow();
+        f->other.setFocus();
+        QTRY_VERIFY(f->other.hasFocus());
         QPointer<KaPopover> popover =
-            f.show(QStringLiteral("x"), KaWidgetData().activateOnShow(true).focusSourceOnClose(focusSource));
+            f->show(QStringLiteral("x"), KaWidgetData().activateOnShow(true).focusSourceOnClose(focusSource));
         QTRY_VERIFY(popover->isActiveWindow());
         QTRY_COMPARE(QApplication::focusWidget(), popover.data());
         QTest::keyClick(popover.data(), Qt::Key_Escape);
         QTRY_VERIFY(popover.isNull());
-        f.window.activateWindow();
-        QTRY_VERIFY(f.window.isActiveWindow());
-        QCOMPARE(f.anchor.hasFocus(), focusSource);
-        QCOMPARE(f.other.hasFocus(), !focusSource);
+        f->window.activateWindow();
+        QTRY_VERIFY(f->window.isActiveWindow());
+        QCOMPARE(f->anchor.hasFocus(), focusSource);
+        QCOMPARE(f->other.hasFocus(), !focusSource);
     }
 
     void noFocusWhenNotTaking() {
-        Fixture f;
-        QVERIFY(f.ready());
-        f.other.setFocus();
-        QTRY_VERIFY(f.other.hasFocus());
-        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().shouldTakeFocus(false));
+        f->other.setFocus();
+        QTRY_VERIFY(f->other.hasFocus());
+        QPointer<KaPopover> popover = f->show(QStringLiteral("x"), KaWidgetData().shouldTakeFocus(false));
         QVERIFY(!popover->hasFocus());
-        QVERIFY(f.other.hasFocus());
-        popover->close();
+        QVERIFY(f->other.hasFocus());
     }
 
     void transparentBackground() {
-        Fixture f;
-        QVERIFY(f.ready());
         const KaPopupUtils::PopupColors colors = KaPopupUtils::popupColors();
 
-        const auto bubble = f.open(KaWidgetData(), new QWidget);
+        const auto bubble = f->open(KaWidgetData(), new QWidget);
         QVERIFY(bubble->testAttribute(Qt::WA_TranslucentBackground));
         QCOMPARE(qAlpha(bubble->grab().toImage().pixel(0, 0)), 0);
 
-        const auto owner = f.open(KaWidgetData().shouldHaveTransparentBackground(false), new QWidget);
+        const auto owner = f->open(KaWidgetData().shouldHaveTransparentBackground(false), new QWidget);
         KaPopover& opaque = *owner;
         QVERIFY(!opaque.testAttribute(Qt::WA_TranslucentBackground));
         QCOMPARE(opaque.bodyRect(), opaque.rect());
@@ -477,14 +439,12 @@ private Q_SLOTS:
         QCOMPARE(opaqueImage.pixelColor(0, 0), colors.border);
         QCOMPARE(opaqueImage.pixelColor(opaque.width() / 2, opaque.height() / 2), colors.background);
         // No shadow band: the window's edge sits where the body's would.
-        const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
+        const QRect anchor(f->anchor.mapToGlobal(QPoint(0, 0)), f->anchor.size());
         QCOMPARE(opaque.geometry().top(), anchor.bottom() + 1 + KaPopupUtils::AnchorGap);
     }
 
     void reverseColors() {
-        Fixture f;
-        QVERIFY(f.ready());
-        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().setReverseColor(true));
+        QPointer<KaPopover> popover = f->show(QStringLiteral("x"), KaWidgetData().setReverseColor(true));
         const QColor alternate = KaPopupUtils::popupColors(BzThemeUtils::Alternate).background;
         QVERIFY(alternate != KaPopupUtils::popupColors().background);
         const QImage image = popover->grab().toImage();
@@ -499,7 +459,6 @@ private Q_SLOTS:
         BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
         QTRY_COMPARE(popover->grab().toImage().pixelColor(centre.x(), popover->bodyRect().bottom() - 3),
                      KaPopupUtils::popupColors(BzThemeUtils::Light).background);
-        popover->close();
     }
 
     void anchorDeletedWhileShown() {
@@ -525,6 +484,7 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<AccessibilityRecorder::RecordingScope> m_recording;
+    std::unique_ptr<Fixture> f;
 };
 
 QTEST_MAIN(tst_KaPopover)
