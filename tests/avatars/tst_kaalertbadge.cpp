@@ -1,5 +1,6 @@
 #include "buttontestutils.h"
 #include "kaalertbadge.h"
+#include "kaalerticonbadge.h"
 #include "testhelpers.h"
 
 #include <QAccessible>
@@ -41,13 +42,8 @@ private Q_SLOTS:
         QCOMPARE(badge.leftIcon().isEmpty(), !icon);
         if (icon)
             QCOMPARE(badge.svgIconRect().left(), 8);
-        QVERIFY(BzTest::near(pixelAt(&badge, QPoint(badge.width() - 3, 10)), colorOf(name.constData())));
-
-        const QColor light = colorOf(name.constData());
         // High contrast changes every one of these faces.
-        switchTheme("highContrast");
-        QVERIFY(colorOf(name.constData()) != light);
-        QTRY_VERIFY(BzTest::near(pixelAt(&badge, QPoint(badge.width() - 3, 10)), colorOf(name.constData())));
+        checkFollowsTheme(&badge, QPoint(badge.width() - 3, 10), name.constData(), "highContrast", 2);
     }
 
     void unknownStyle() {
@@ -73,9 +69,34 @@ private Q_SLOTS:
     void spokenAndNotFocusable() {
         KaAlertBadge badge(QStringLiteral("External"), KaBadgeEnum::AlertWarning);
         QCOMPARE(badge.focusPolicy(), Qt::NoFocus);
-        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&badge);
-        QVERIFY(iface);
-        QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("External"));
+        QCOMPARE(accessibleName(&badge), QStringLiteral("External"));
+    }
+
+    // KaAlertIconBadge, which shares the configuration.
+    void iconBadgeSquareWithIcon() {
+        QWidget window;
+        KaAlertIconBadge badge(&window, KaBadgeEnum::Important);
+        QVERIFY(shown(window));
+        QCOMPARE(badge.maximumSize(), QSize(20, 20));
+        QCOMPARE(badge.svgIconRect(), QRect(4, 4, 12, 12));
+        QCOMPARE(accessibleName(&badge), QStringLiteral("important"));
+        QVERIFY(paints(&badge, QPoint(10, 2), "alertbadge-important-background", 2));
+
+        QSignalSpy spy(&badge, &KaAlertIconBadge::styleChanged);
+        badge.setStyle(KaBadgeEnum::AlertGeneral);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(badge.leftIcon(), QStringLiteral("qrc:/Resources/blocked-bold.svg"));
+        QCOMPARE(accessibleName(&badge), QStringLiteral("blocked"));
+
+        checkFollowsTheme(&badge, QPoint(10, 2), "alertbadge-blocked-background", "dark", 2);
+    }
+
+    void iconBadgeUnknownStyle() {
+        QTest::ignoreMessage(QtWarningMsg, "KaAlertBadgeConfig: unknown badge style 5, using DefaultBadge");
+        KaAlertIconBadge badge(nullptr, KaBadgeEnum::Style(5));
+        QCOMPARE(badge.style(), KaBadgeEnum::DefaultBadge);
+        QVERIFY(badge.leftIcon().isEmpty());
+        QCOMPARE(badge.maximumSize(), QSize(20, 20));
     }
 };
 

@@ -1,12 +1,32 @@
+#include "buttontestutils.h"
 #include "kabadge.h"
+#include "kaiconbadge.h"
+#include "katextwithbackground.h"
+#include "testhelpers.h"
 
 #include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace ButtonTest;
+
+namespace {
+// Whether any pixel of the badge is painted in `color`.
+bool paintsIn(QWidget* widget, const QColor& color) {
+    const QImage image = rendered(widget);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y).alpha() == 255 && BzTest::near(image.pixelColor(x, y), color, 1))
+                return true;
+    return false;
+}
+} // namespace
+
 class tst_KaBadge : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void cleanup() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
+
     void text_data() {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("shown");
@@ -58,12 +78,81 @@ private Q_SLOTS:
         QVERIFY(badge.width() > 0);
     }
 
-    void countIsSpoken() {
+    // The count is spoken as shown; a text badge is static text.
+    void spoken() {
         KaBadge badge;
         badge.setText(QStringLiteral("250"));
-        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&badge);
-        QVERIFY(iface);
-        QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("99+"));
+        QCOMPARE(accessibleName(&badge), QStringLiteral("99+"));
+        KaTextWithBackground label(QStringLiteral("new"));
+        QCOMPARE(accessibleRole(&label), QAccessible::StaticText);
+        QCOMPARE(accessibleName(&label), QStringLiteral("new"));
+    }
+
+    // KaIconBadge.
+    void iconInItsColour_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("color");
+        QTest::newRow("warning") << int(IconBadgeWarning) << QStringLiteral("label-warning-text");
+        QTest::newRow("unread") << int(IconBadgeUnread) << QStringLiteral("badge-background");
+    }
+
+    // A 14-pixel icon in the type's colour, in every theme.
+    void iconInItsColour() {
+        QFETCH(int, type);
+        QFETCH(QString, color);
+        const QByteArray name = color.toLatin1();
+        QWidget window;
+        KaIconBadge badge(&window, KaIconBadgeType(type));
+        QVERIFY(shown(window));
+        QCOMPARE(badge.maximumSize(), QSize(14, 14));
+        QCOMPARE(badge.svgIconSize(), QSize(14, 14));
+        QVERIFY(paintsIn(&badge, colorOf(name.constData())));
+        QVERIFY(!accessibleName(&badge).isEmpty());
+
+        const QColor light = colorOf(name.constData());
+        switchTheme("dark");
+        QVERIFY(colorOf(name.constData()) != light);
+        QTRY_VERIFY(paintsIn(&badge, colorOf(name.constData())));
+    }
+
+    void unknownType() {
+        QTest::ignoreMessage(QtWarningMsg, "KaIconBadge: unknown icon badge type 11, showing no icon");
+        KaIconBadge badge(nullptr, KaIconBadgeType(11));
+        QCOMPARE(badge.maximumSize(), QSize(14, 14));
+        QVERIFY(badge.svgIcon().isEmpty());
+        const QImage image = rendered(&badge);
+        QCOMPARE(image, BzTest::canvas(QSize(14, 14)));
+    }
+
+    // KaTextWithBackground.
+    void looks_data() {
+        QTest::addColumn<bool>("legacy");
+        QTest::addColumn<QString>("background");
+        QTest::addColumn<bool>("roundEnds");
+        QTest::newRow("modern") << false << QStringLiteral("badge-background") << true;
+        QTest::newRow("legacy") << true << QStringLiteral("badge-secondary-background") << false;
+    }
+
+    // The face takes the look's colour, its corners the look's radius, and both
+    // follow a theme switch.
+    void looks() {
+        QFETCH(bool, legacy);
+        QFETCH(QString, background);
+        QFETCH(bool, roundEnds);
+        QWidget window;
+        KaTextWithBackground label(QStringLiteral("12"), &window);
+        QSignalSpy spy(&label, &KaTextWithBackground::legacyStylingChanged);
+        label.setLegacyStyling(legacy);
+        label.setLegacyStyling(legacy);
+        QCOMPARE(spy.count(), legacy ? 1 : 0);
+        label.resize(40, KaTextWithBackground::kHeight);
+        QVERIFY(shown(window));
+        const QByteArray name = background.toLatin1();
+        QCOMPARE(label.sizeHint().height(), KaTextWithBackground::kHeight);
+
+        // A pill leaves its corner pixel empty; 4 px corners cover most of it.
+        QCOMPARE(pixelAt(&label, QPoint(1, 1)).alpha() < 128, roundEnds);
+        checkFollowsTheme(&label, QPoint(3, 8), name.constData(), "dark", 2);
     }
 };
 
