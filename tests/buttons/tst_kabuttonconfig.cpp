@@ -1,11 +1,13 @@
 #include "buttontestutils.h"
+#include "kaiconbuttonconfig.h"
+#include "kaoverlaybuttonconfig.h"
 #include "kapillbuttonconfig.h"
 #include "karoundbuttonconfig.h"
 
 #include <QMetaEnum>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
-
 #include <memory>
 
 namespace {
@@ -39,6 +41,10 @@ void addStyleRows() {
 }
 
 } // namespace
+
+namespace {
+const char kRefusal[] = "Setting the right icon on the KaRoundButtonConfig is not supported!";
+}
 
 class tst_KaButtonConfig : public QObject {
     Q_OBJECT
@@ -199,19 +205,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("off");
         QTest::addColumn<QString>("on");
         QTest::addColumn<bool>("hasRightIcon");
-        QTest::newRow("plain") << QStringList{QStringLiteral("right=a")} << QStringLiteral("a")
-                               << QStringLiteral("a") << true;
-        QTest::newRow("plain, then on") << QStringList{QStringLiteral("right=a"), QStringLiteral("on=b")}
-                                        << QStringLiteral("a") << QStringLiteral("b") << true;
-        QTest::newRow("on, then plain") << QStringList{QStringLiteral("on=b"), QStringLiteral("right=a")}
-                                        << QStringLiteral("a") << QStringLiteral("a") << true;
-        QTest::newRow("on only") << QStringList{QStringLiteral("on=b")} << QStringLiteral("")
-                                 << QStringLiteral("b") << false;
-        QTest::newRow("plain, on, plain again")
-            << QStringList{QStringLiteral("right=a"), QStringLiteral("on=b"), QStringLiteral("right=c")}
-            << QStringLiteral("c") << QStringLiteral("c") << true;
-        QTest::newRow("plain, cleared") << QStringList{QStringLiteral("right=a"), QStringLiteral("right=")}
-                                        << QStringLiteral("") << QStringLiteral("") << false;
+        QTest::newRow("plain") << QStringList{"right=a"} << "a"
+                               << "a" << true;
+        QTest::newRow("plain, then on") << QStringList{"right=a", "on=b"} << "a"
+                                        << "b" << true;
+        QTest::newRow("on, then plain") << QStringList{"on=b", "right=a"} << "a"
+                                        << "a" << true;
+        QTest::newRow("on only") << QStringList{"on=b"} << ""
+                                 << "b" << false;
+        QTest::newRow("plain, on, plain again") << QStringList{"right=a", "on=b", "right=c"} << "c"
+                                                << "c" << true;
+        QTest::newRow("plain, cleared") << QStringList{"right=a", "right="} << ""
+                                        << "" << false;
     }
 
     void rightIconOrder() {
@@ -234,7 +239,254 @@ private Q_SLOTS:
         pill.fillGeometry(geometry);
         QCOMPARE(geometry.anchorIconVisible, hasRightIcon);
     }
+
+    // KaPillButtonConfig.
+    void iconsOnlyAtPillSizes_data() {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("pillSize");
+        const QMetaEnum sizes = QMetaEnum::fromType<KaButtonEnum::Size>();
+        for (int i = 0; i < sizes.keyCount(); ++i)
+            QTest::newRow(sizes.key(i)) << sizes.value(i) << (sizes.value(i) <= KaButtonEnum::ExtraSmall);
+        QTest::newRow("outside the enumeration") << 7 << false;
+    }
+
+    // Sizes below ExtraSmall are not pill sizes: no height, icons hidden even
+    // when present. The width policy and icon alignment hold for every size.
+    void iconsOnlyAtPillSizes() {
+        QFETCH(int, size);
+        QFETCH(bool, pillSize);
+        KaPillButtonConfig pill;
+        pill.setHasLeftIcon(true);
+        pill.setHasRightIcon(true);
+        pill.setSize(KaButtonEnum::Size(size));
+        KaPillButtonConfig::Geometry g;
+        pill.fillGeometry(g);
+        QCOMPARE(g.fixedHeight > 0, pillSize);
+        QCOMPARE(g.svgIconVisible, pillSize);
+        QCOMPARE(g.anchorIconVisible, pillSize);
+        if (pillSize) {
+            QCOMPARE(g.anchorIconSize, g.svgIconSize);
+            QVERIFY(g.fontToken != 0);
+        }
+        QVERIFY(g.alignAnchorIconToText);
+        QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
+        QCOMPARE(g.sizePolicy.horizontalPolicy(), QSizePolicy::Maximum);
+    }
+
+    void missingIcons_data() {
+        QTest::addColumn<bool>("left");
+        QTest::addColumn<bool>("right");
+        QTest::newRow("none") << false << false;
+        QTest::newRow("left") << true << false;
+        QTest::newRow("right") << false << true;
+    }
+
+    // Large: a present icon is 16 px with 6 px spacing; a missing one takes none.
+    void missingIcons() {
+        QFETCH(bool, left);
+        QFETCH(bool, right);
+        KaPillButtonConfig pill;
+        pill.setHasLeftIcon(left);
+        pill.setHasRightIcon(right);
+        KaPillButtonConfig::Geometry g;
+        pill.fillGeometry(g);
+        QCOMPARE(g.svgIconSize, left ? QSize(16, 16) : QSize(0, 0));
+        QCOMPARE(g.svgIconSpacing, left ? 6 : 0);
+        QCOMPARE(g.anchorIconSize, right ? QSize(16, 16) : QSize(0, 0));
+        QCOMPARE(g.anchorIconSpacing, right ? 6 : 0);
+        QCOMPARE(g.svgIconVisible, left);
+        QCOMPARE(g.anchorIconVisible, right);
+    }
+
+    void leftIconPathDrivesSpacing() {
+        KaPillButtonConfig pill;
+        pill.setSize(KaButtonEnum::Normal);
+        QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
+        KaPillButtonConfig::Geometry g;
+
+        const QString icon = QStringLiteral("qrc:/Resources/meet-bold.svg");
+        pill.setLeftIcon(icon);
+        QVERIFY(pill.hasLeftIcon());
+        QCOMPARE(pill.svgIcon(), icon);
+        pill.fillGeometry(g);
+        QCOMPARE(g.svgIconSpacing, 4);
+        QCOMPARE(g.svgIconSize, QSize(16, 16));
+
+        pill.setLeftIcon(icon); // same path: nothing
+        pill.setLeftIcon(QString());
+        QVERIFY(!pill.hasLeftIcon());
+        pill.fillGeometry(g);
+        QCOMPARE(g.svgIconSpacing, 0);
+        QCOMPARE(g.svgIconSize, QSize(0, 0));
+        QCOMPARE(g.svgIconVisible, false);
+        // One refresh per real change, although the flag changed as well.
+        QCOMPARE(configSpy.count(), 2);
+    }
+
+    void widthPolicy_data() {
+        QTest::addColumn<int>("policy");
+        QTest::newRow("Expanding") << int(QSizePolicy::Expanding);
+        QTest::newRow("Maximum again") << int(QSizePolicy::Maximum);
+    }
+
+    void widthPolicy() {
+        QFETCH(int, policy);
+        KaPillButtonConfig pill;
+        QSignalSpy configSpy(&pill, &IKaButtonConfig::configChanged);
+        QSignalSpy policySpy(&pill, &KaButtonConfig::widthSizePolicyChanged);
+        pill.setWidthSizePolicy(QSizePolicy::Policy(policy));
+        // Always a refresh; the property signal only on a change.
+        QCOMPARE(configSpy.count(), 1);
+        QCOMPARE(policySpy.count(), policy == QSizePolicy::Maximum ? 0 : 1);
+        KaPillButtonConfig::Geometry g;
+        pill.fillGeometry(g);
+        QCOMPARE(int(g.sizePolicy.horizontalPolicy()), policy);
+        QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
+        QCOMPARE(g.sizePolicy.controlType(), QSizePolicy::DefaultType);
+    }
+
+    // KaRoundButtonConfig.
+    void startsSmall() {
+        KaRoundButtonConfig round;
+        QCOMPARE(round.size(), KaButtonEnum::Small);
+        QCOMPARE(round.hasLeftIcon(), false);
+        KaRoundButtonConfig::Geometry g;
+        round.fillGeometry(g);
+        QCOMPARE(g.fixedHeight, 32);
+        QCOMPARE(g.sizePolicy.horizontalPolicy(), QSizePolicy::Fixed);
+        QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
+    }
+
+    void refusesRightIcon() {
+        KaRoundButtonConfig round;
+        round.setHasLeftIcon(true);
+        QSignalSpy configSpy(&round, &IKaButtonConfig::configChanged);
+        KaRoundButtonConfig::Geometry before;
+        round.fillGeometry(before);
+
+        QTest::ignoreMessage(QtWarningMsg, kRefusal);
+        round.setHasRightIcon(true);
+
+        QCOMPARE(configSpy.count(), 0);
+        QCOMPARE(round.hasLeftIcon(), true);
+        KaRoundButtonConfig::Geometry after;
+        round.fillGeometry(after);
+        QCOMPARE(after.colors, before.colors);
+        QCOMPARE(after.svgIconSize, before.svgIconSize);
+    }
+
+    void rightIconPathWarnsOnce() {
+        KaRoundButtonConfig round;
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        QTest::ignoreMessage(QtWarningMsg, kRefusal);
+        round.setRightIcon(QStringLiteral("qrc:/Resources/phone-filled.svg"));
+        // The same path again does not reach the configuration a second time.
+        round.setRightIcon(QStringLiteral("qrc:/Resources/phone-filled.svg"));
+        QCOMPARE(round.rightIcon(), QStringLiteral("qrc:/Resources/phone-filled.svg"));
+    }
+
+    // KaIconButtonConfig.
+    void iconColours_data() {
+        QTest::addColumn<int>("type");
+        const QMetaEnum types = QMetaEnum::fromType<KaIconButtonEnum::Type>();
+        for (int i = 0; i < types.keyCount(); ++i)
+            QTest::newRow(types.key(i)) << types.value(i);
+        QTest::newRow("outside the enumeration") << 7;
+    }
+
+    // A typed icon sits on the container background and differs between ACTIVE
+    // and INACTIVE; None (or an unknown type) shows nothing. High contrast adds
+    // the primary border to every icon button and changes nothing else.
+    void iconColours() {
+        QFETCH(int, type);
+        const bool typed = type > KaIconButtonEnum::None && type <= KaIconButtonEnum::Dismiss;
+        KaIconButtonConfig config;
+        config.setType(KaIconButtonEnum::Type(type));
+        KaButtonConfigRecord active;
+        KaButtonConfigRecord inactive;
+        {
+            const ButtonTest::HighContrastScope off(false);
+            config.setStyle(KaIconButtonEnum::ACTIVE);
+            config.fillConfig(active);
+            config.setStyle(KaIconButtonEnum::INACTIVE);
+            config.fillConfig(inactive);
+        }
+        for (const KaButtonConfigRecord& record : {active, inactive}) {
+            QCOMPARE(record.colors.textColorSet.isEmpty(), !typed);
+            QCOMPARE(record.colors.backgroundColorSet,
+                     typed ? QStringLiteral("interactiveicon-container-background") : QString());
+            QVERIFY(!record.colors.hasAnyBorder());
+        }
+        QCOMPARE(active.colors.textColorSet != inactive.colors.textColorSet, typed);
+
+        const ButtonTest::HighContrastScope on(true);
+        KaButtonConfigRecord record;
+        config.fillConfig(record);
+        QCOMPARE(record.colors.textColorSet, inactive.colors.textColorSet);
+        QCOMPARE(record.colors.backgroundColorSet, inactive.colors.backgroundColorSet);
+        QCOMPARE(record.colors.borderColorSet, QStringLiteral("button-primary-border"));
+        QCOMPARE(record.colors.hasBorder, (std::array<bool, 4>{{true, true, true, true}}));
+    }
+
+    void setterNotifications() {
+        KaIconButtonConfig config;
+        QSignalSpy configSpy(&config, &IKaButtonConfig::configChanged);
+        config.setType(KaIconButtonEnum::None); // the initial values
+        config.setStyle(KaIconButtonEnum::INACTIVE);
+        config.setSize(KaButtonEnum::Normal);
+        QCOMPARE(configSpy.count(), 0);
+        config.setType(KaIconButtonEnum::Favorite);
+        QCOMPARE(configSpy.count(), 1);
+        // The custom value is not an icon button's: no accelerator type.
+        config.setCustomValue(5);
+        KaButtonConfigRecord record;
+        config.fillConfig(record);
+        QCOMPARE(record.acceleratorType, 0);
+    }
+
+    // KaOverlayButtonConfig.
+    void overlayColours_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("coloured");
+        QTest::newRow("None") << 0 << false;
+        QTest::newRow("ExpandAreaOverlay") << 1 << true;
+        QTest::newRow("CollapseAreaOverlay") << 2 << true;
+        QTest::newRow("outside the enumeration") << 3 << false;
+    }
+
+    void overlayColours() {
+        QFETCH(int, type);
+        QFETCH(bool, coloured);
+        KaOverlayButtonConfig config;
+        config.setType(KaOverlayButtonEnum::Type(type));
+        KaButtonConfigRecord record;
+        config.fillConfig(record);
+        if (coloured) {
+            QCOMPARE(record.colors.backgroundColorSet, QStringLiteral("button-overlay-background"));
+            QCOMPARE(record.colors.borderColorSet, QStringLiteral("button-overlay-border"));
+            QCOMPARE(record.colors.textColorSet, QStringLiteral("button-overlay-text"));
+            QVERIFY(record.colors.hasAnyBorder());
+        } else {
+            QCOMPARE(record.colors, KaButtonConfigRecord::Colors());
+        }
+    }
+
+    void sizeNotifiesOnlyOnChange() {
+        KaOverlayButtonConfig config;
+        QSignalSpy sizeSpy(&config, &KaOverlayButtonConfig::sizeChanged);
+        config.setSize(config.size());
+        QCOMPARE(sizeSpy.count(), 0);
+        config.setSize(KaOverlayButtonEnum::Micro);
+        config.setSize(KaOverlayButtonEnum::Micro);
+        QCOMPARE(sizeSpy.count(), 1);
+        KaOverlayButtonConfig::Geometry micro;
+        config.fillGeometry(micro, Qt::LeftToRight);
+        config.setSize(KaOverlayButtonEnum::ExtraLarge);
+        KaOverlayButtonConfig::Geometry large;
+        config.fillGeometry(large, Qt::LeftToRight);
+        QVERIFY(micro.fixedHeight < large.fixedHeight);
+    }
 };
 
-QTEST_GUILESS_MAIN(tst_KaButtonConfig)
+QTEST_MAIN(tst_KaButtonConfig)
 #include "tst_kabuttonconfig.moc"
