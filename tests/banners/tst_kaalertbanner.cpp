@@ -223,17 +223,11 @@ private Q_SLOTS:
         KaAlertBanner banner(&window, KaAlertBanner::Transient);
         banner.setGeometry(0, 0, 300, 40);
         QVERIFY(shown(window));
-        const QPoint inside(150, 2);
-        QCOMPARE(pixelAt(&banner, inside), colorOf("banner-style-transient-background", BzThemeUtils::Light));
-        const QColor dark = colorOf("banner-style-transient-background", BzThemeUtils::Dark);
-        QVERIFY(dark != colorOf("banner-style-transient-background", BzThemeUtils::Light));
-        switchTheme("dark");
-        QTRY_COMPARE(pixelAt(&banner, inside), dark);
+        checkFollowsTheme(&banner, QPoint(150, 2), "banner-style-transient-background");
         // In high contrast the strip is outlined in its text colour.
         const HighContrastScope contrast(true);
         switchTheme("highContrast");
-        QTRY_COMPARE(pixelAt(&banner, QPoint(150, 1)),
-                     colorOf("banner-style-transient-text", BzThemeUtils::HighContrast));
+        QTRY_VERIFY(paints(&banner, QPoint(150, 1), "banner-style-transient-text", 0));
     }
 
     void keyboardFocusRing_data() {

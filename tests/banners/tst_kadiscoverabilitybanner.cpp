@@ -1,14 +1,17 @@
 #include "buttontestutils.h"
 #include "kaconfig.h"
 #include "kadiscoverabilitybanner.h"
+#include "qmlkadiscoverabilitybannerdata.h"
 #include "testhelpers.h"
 
+#include <QAccessible>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextDocument>
 #include <bzsvgpushbutton.h>
 #include <kalabelbase.h>
 #include <kasvglabelbase.h>
-
-#include <QAccessible>
-#include <QTextDocument>
 
 using namespace ButtonTest;
 using Type = KaDiscoverabilityEnum::DiscoverabilityLabelType;
@@ -129,7 +132,7 @@ private Q_SLOTS:
                 [&] { hiddenAtSignal = !banner->isVisible(); });
         QSignalSpy spy(banner, &KaDiscoverabilityBanner::dismissed);
         auto* cross = banner->findChild<BzSvgPushButton*>(QStringLiteral("dismissButton"));
-        QVERIFY(!QAccessible::queryAccessibleInterface(cross)->text(QAccessible::Name).isEmpty());
+        QVERIFY(!accessibleName(cross).isEmpty());
         QTest::mouseClick(cross, Qt::LeftButton);
         QCOMPARE(spy.count(), 1);
         QVERIFY(hiddenAtSignal);
@@ -140,19 +143,72 @@ private Q_SLOTS:
         auto* banner = new KaDiscoverabilityBanner(&window);
         banner->setBannerText(QStringLiteral("Pin chats"));
         QVERIFY(shown(window, QRect(100, 100, 340, 120)));
-        const QPoint at(150, 2);
-        QCOMPARE(pixelAt(banner, at), colorOf("newFeature-banner-background", BzThemeUtils::Light));
-        const QColor dark = colorOf("newFeature-banner-background", BzThemeUtils::Dark);
-        switchTheme("dark");
-        QTRY_COMPARE(pixelAt(banner, at), dark);
+        checkFollowsTheme(banner, QPoint(150, 2), "newFeature-banner-background");
         // The caption's accent follows as well.
         const QString accent = colorOf("newFeature-banner-newFeatureIcon", BzThemeUtils::Dark).name();
         QTRY_VERIFY(banner->findChild<KaLabelBase*>(QStringLiteral("bannerText"))->text().contains(accent));
         // In high contrast the tip is outlined in its text colour.
         const HighContrastScope contrast(true);
         switchTheme("highContrast");
-        QTRY_COMPARE(pixelAt(banner, QPoint(150, 0)),
-                     colorOf("newFeature-banner-text", BzThemeUtils::HighContrast));
+        QTRY_VERIFY(paints(banner, QPoint(150, 0), "newFeature-banner-text", 0));
+    }
+
+    // QmlKaDiscoverabilityBannerData, which describes a banner for QML.
+    void qmlDataBadInput_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("expectedWidth");
+        QTest::newRow("label look") << int(KaDiscoverabilityEnum::IconTag) << 240 << 240;
+        QTest::newRow("out of range, narrow") << 17 << 20 << int(KaDiscoverabilityBanner::MinimumWidth);
+        QTest::newRow("negative, negative") << -1 << -300 << int(KaDiscoverabilityBanner::MinimumWidth);
+    }
+
+    void qmlDataBadInput() {
+        QFETCH(int, type);
+        QFETCH(int, width);
+        QFETCH(int, expectedWidth);
+        QmlKaDiscoverabilityBannerData data;
+        QSignalSpy typeSpy(&data, &QmlKaDiscoverabilityBannerData::bannerTypeChanged);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("not a banner kind")));
+        data.setBannerType(Type(type));
+        QCOMPARE(typeSpy.count(), 0);
+        QCOMPARE(data.bannerType(), KaDiscoverabilityEnum::NewFeature);
+        if (width < KaDiscoverabilityBanner::MinimumWidth)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("too narrow")));
+        data.setBannerWidth(width);
+        QCOMPARE(data.bannerWidth(), expectedWidth);
+    }
+
+    void createdBannerFollowsDescription() {
+        QmlKaDiscoverabilityBannerData data;
+        data.setBannerType(KaDiscoverabilityEnum::TipShortcut);
+        data.setBannerText(QStringLiteral("Press Ctrl+K"));
+        data.setBannerWidth(260);
+        QWidget parent;
+        QPointer<KaDiscoverabilityBanner> banner = data.createBanner(&parent);
+        QCOMPARE(banner->parentWidget(), &parent);
+        QCOMPARE(banner->type(), KaDiscoverabilityEnum::TipShortcut);
+        QCOMPARE(banner->bannerText(), QStringLiteral("Press Ctrl+K"));
+        QCOMPARE(banner->width(), 260);
+
+        data.setBannerText(QStringLiteral("Press Ctrl+F"));
+        data.setBannerWidth(320);
+        QCOMPARE(banner->bannerText(), QStringLiteral("Press Ctrl+F"));
+        QCOMPARE(banner->width(), 320);
+
+        QSignalSpy dismissed(&data, &QmlKaDiscoverabilityBannerData::dismissed);
+        banner->findChild<BzSvgPushButton*>(QStringLiteral("dismissButton"))->click();
+        QCOMPARE(dismissed.count(), 1);
+
+        // Either side may go first.
+        delete banner.data();
+        data.setBannerText(QStringLiteral("gone"));
+        auto* other = new QmlKaDiscoverabilityBannerData;
+        QPointer<KaDiscoverabilityBanner> orphan = other->createBanner(&parent);
+        delete other;
+        QVERIFY(orphan);
+        orphan->findChild<BzSvgPushButton*>(QStringLiteral("dismissButton"))->click();
+        QVERIFY(!orphan->isVisible());
     }
 };
 

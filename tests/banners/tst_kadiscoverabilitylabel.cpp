@@ -1,11 +1,12 @@
 #include "buttontestutils.h"
 #include "kaconfig.h"
 #include "kadiscoverabilitylabel.h"
+#include "kadiscoverabilitywidget.h"
 #include "testhelpers.h"
 
-#include <kalabelbase.h>
-
 #include <QAccessible>
+#include <QSignalSpy>
+#include <kalabelbase.h>
 
 using namespace ButtonTest;
 using Type = KaDiscoverabilityEnum::DiscoverabilityLabelType;
@@ -121,8 +122,7 @@ private Q_SLOTS:
         KarvexUtils::updateSolvaneThemes();
         QTRY_COMPARE(caption->text(), QStringLiteral("Brand new"));
         QVERIFY(label.width() > narrow);
-        QCOMPARE(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name),
-                 QStringLiteral("Brand new"));
+        QCOMPARE(accessibleName(&label), QStringLiteral("Brand new"));
         KaConfig::setDiscoverabilityCaption(QString());
         KarvexUtils::updateSolvaneThemes();
         QTRY_COMPARE(caption->text(), QStringLiteral("New"));
@@ -134,12 +134,66 @@ private Q_SLOTS:
         auto* label = new KaDiscoverabilityLabel(&window);
         label->setLabelType(KaDiscoverabilityEnum::IconBadge);
         QVERIFY(shown(window));
-        const QPoint at(2, 9);
-        QCOMPARE(pixelAt(label, at), colorOf("newFeature-badge-background", BzThemeUtils::Light));
-        const QColor dark = colorOf("newFeature-badge-background", BzThemeUtils::Dark);
-        QVERIFY(dark != colorOf("newFeature-badge-background", BzThemeUtils::Light));
-        switchTheme("dark");
-        QTRY_COMPARE(pixelAt(label, at), dark);
+        checkFollowsTheme(label, QPoint(2, 9), "newFeature-badge-background");
+    }
+
+    // KaDiscoverabilityWidget, which shows the label as a badge.
+    void otherTypesChangeNothing_data() {
+        QTest::addColumn<int>("type");
+        QTest::newRow("IconTag") << int(KaDiscoverabilityEnum::IconTag);
+        QTest::newRow("IconWithTextTag") << int(KaDiscoverabilityEnum::IconWithTextTag);
+        QTest::newRow("NewFeature") << int(KaDiscoverabilityEnum::NewFeature);
+        QTest::newRow("out of range") << -5;
+    }
+
+    void otherTypesChangeNothing() {
+        QFETCH(int, type);
+        KaDiscoverabilityWidget widget;
+        widget.resize(120, 40);
+        widget.setBadgeType(KaDiscoverabilityEnum::IconWithBorder);
+        const QRect before = widget.badge()->geometry();
+        QSignalSpy spy(&widget, &KaDiscoverabilityWidget::badgeTypeChanged);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("not a badge look")));
+        widget.setBadgeType(Type(type));
+        QCOMPARE(spy.count(), 0);
+        QCOMPARE(widget.badgeType(), KaDiscoverabilityEnum::IconWithBorder);
+        QCOMPARE(widget.badge()->labelType(), KaDiscoverabilityEnum::IconWithBorder);
+        QCOMPARE(widget.badge()->geometry(), before);
+    }
+
+    // The badge's right edge meets the widget's at the top, above the widget's
+    // other children, and stays there when the widget is resized.
+    void pinnedToTopRight() {
+        QWidget window;
+        auto* widget = new KaDiscoverabilityWidget(&window);
+        auto* content = new QWidget(widget);
+        content->setGeometry(0, 0, 120, 40);
+        widget->setGeometry(10, 10, 120, 40);
+        QVERIFY(shown(window));
+        QSignalSpy spy(widget, &KaDiscoverabilityWidget::badgeTypeChanged);
+        widget->setBadgeType(KaDiscoverabilityEnum::IconWithBorder);
+        QCOMPARE(spy.count(), 1);
+        auto* badge = widget->findChild<KaDiscoverabilityLabel*>(QStringLiteral("discoverabilityBadge"));
+        QCOMPARE(badge->labelType(), KaDiscoverabilityEnum::IconWithBorder);
+        QVERIFY(!badge->isVisible());
+        widget->showDiscoverabilityBadge(true);
+        QVERIFY(badge->isVisible());
+        QCOMPARE(badge->geometry(), QRect(120 - 18, 0, 18, 18));
+        QVERIFY(badge->isAncestorOf(widget->childAt(115, 5)) || widget->childAt(115, 5) == badge);
+        widget->resize(200, 40);
+        QCOMPARE(badge->geometry().topRight(), QPoint(199, 0));
+        widget->showDiscoverabilityBadge(false);
+        QVERIFY(!badge->isVisible());
+    }
+
+    void deletedBadge() {
+        KaDiscoverabilityWidget widget;
+        delete widget.badge();
+        QVERIFY(!widget.badge());
+        widget.setBadgeType(KaDiscoverabilityEnum::IconWithBorder);
+        widget.showDiscoverabilityBadge(true);
+        widget.resize(50, 50);
+        QVERIFY(widget.isBadgeShown());
     }
 };
 
