@@ -1,8 +1,7 @@
 #include "accessibilityrecorder.h"
 #include "kalabel.h"
 #include "kapopover.h"
-
-#include <bzthememanager.h>
+#include "kawidgetdata.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -13,7 +12,7 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
-
+#include <bzthememanager.h>
 #include <memory>
 
 Q_DECLARE_METATYPE(KaPopupEnum::Alignment)
@@ -485,6 +484,32 @@ private Q_SLOTS:
 private:
     std::unique_ptr<AccessibilityRecorder::RecordingScope> m_recording;
     std::unique_ptr<Fixture> f;
+
+    // KaWidgetData.
+    void negativeTicksClamped() {
+        QTest::ignoreMessage(QtWarningMsg, "KaWidgetData: negative dismiss timer ticks -2, using 0");
+        KaWidgetData d;
+        d.dismissTimerTicks(5).dismissTimerTicks(-2);
+        QCOMPARE(d.m_dismissTimerTicks, 0);
+    }
+
+    void toArrowPosition_data() {
+        QTest::addColumn<int>("arrow");
+        QTest::addColumn<KaWidgetData::ArrowPostion>("expected");
+        QTest::newRow("up") << int(Qt::UpArrow) << KaWidgetData::ArrowTop;
+        QTest::newRow("left") << int(Qt::LeftArrow) << KaWidgetData::ArrowLeft;
+        QTest::newRow("right") << int(Qt::RightArrow) << KaWidgetData::ArrowRight;
+        QTest::newRow("down") << int(Qt::DownArrow) << KaWidgetData::ArrowBottom;
+        QTest::newRow("none") << int(Qt::NoArrow) << KaWidgetData::ArrowNone;
+        // Unnamed, but still a value Qt::ArrowType can hold (0..7).
+        QTest::newRow("out of range") << 7 << KaWidgetData::ArrowNone;
+    }
+
+    void toArrowPosition() {
+        QFETCH(int, arrow);
+        QFETCH(KaWidgetData::ArrowPostion, expected);
+        QCOMPARE(KaWidgetData::toArrowPosition(Qt::ArrowType(arrow)), expected);
+    }
 };
 
 QTEST_MAIN(tst_KaPopover)
