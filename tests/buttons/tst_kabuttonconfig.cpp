@@ -17,6 +17,24 @@ namespace {
 using Colors = KaButtonConfigRecord::Colors;
 using ButtonTest::HighContrastScope;
 
+// What a configuration (or the one pointed to) fills in.
+template <typename Config, typename... Direction>
+typename Config::Geometry geometryOf(const Config& config, Direction... direction) {
+    typename Config::Geometry g;
+    config.fillGeometry(g, direction...);
+    return g;
+}
+
+template <typename Config> typename Config::Geometry geometryOf(const Config* config) {
+    return geometryOf(*config);
+}
+
+KaButtonConfigRecord recordOf(const IKaButtonConfig& config) {
+    KaButtonConfigRecord record;
+    config.fillConfig(record);
+    return record;
+}
+
 std::array<bool, 4> allSides(bool on) {
     return {{on, on, on, on}};
 }
@@ -24,8 +42,7 @@ std::array<bool, 4> allSides(bool on) {
 KaButtonConfigRecord colourRecord(KaButtonConfig& config, int style, int state) {
     config.setStyle(KaButtonEnum::Style(style));
     config.setState(KaButtonEnum::State(state));
-    KaButtonConfigRecord record;
-    config.fillConfig(record);
+    const KaButtonConfigRecord record = recordOf(config);
     return record;
 }
 
@@ -46,12 +63,6 @@ const char kRefusal[] = "Setting the right icon on the KaRoundButtonConfig is no
 
 using Sides = std::array<bool, 4>; // top, right, bottom, left
 using Cell = IKaDualCellConfig;
-
-Cell::Geometry geometryOf(const Cell* cell) {
-    Cell::Geometry g;
-    cell->fillGeometry(g);
-    return g;
-}
 
 const QString kSeparator = QStringLiteral("button-group-separator-background");
 
@@ -79,11 +90,9 @@ private Q_SLOTS:
 
         KaRoundButtonConfig round;
         QCOMPARE(colourRecord(round, style, state).colors, record.colors);
-        KaPillButtonConfig::Geometry pillGeometry;
-        pill.fillGeometry(pillGeometry);
+        const auto pillGeometry = geometryOf(pill);
         QCOMPARE(pillGeometry.colors, record.colors);
-        KaRoundButtonConfig::Geometry roundGeometry;
-        round.fillGeometry(roundGeometry);
+        const auto roundGeometry = geometryOf(round);
         QCOMPARE(roundGeometry.colors, record.colors);
     }
 
@@ -204,8 +213,7 @@ private Q_SLOTS:
         // Every toggle asks for a refresh.
         QCOMPARE(configSpy.count(), toggles.size());
 
-        KaButtonConfigRecord record;
-        pill.fillConfig(record);
+        const KaButtonConfigRecord record = recordOf(pill);
         QCOMPARE(record.colors, KaButtonConfig::colorsFor(KaButtonEnum::Secondary, state));
         QVERIFY(KaButtonConfig::colorsFor(KaButtonEnum::Secondary, KaButtonEnum::Active) !=
                 KaButtonConfig::colorsFor(KaButtonEnum::Secondary, KaButtonEnum::Inactive));
@@ -246,8 +254,7 @@ private Q_SLOTS:
         QCOMPARE(pill.anchorSvgOff(), off);
         QCOMPARE(pill.anchorSvgOn(), on);
         QCOMPARE(pill.hasRightIcon(), hasRightIcon);
-        KaPillButtonConfig::Geometry geometry;
-        pill.fillGeometry(geometry);
+        const auto geometry = geometryOf(pill);
         QCOMPARE(geometry.anchorIconVisible, hasRightIcon);
     }
 
@@ -270,8 +277,7 @@ private Q_SLOTS:
         pill.setHasLeftIcon(true);
         pill.setHasRightIcon(true);
         pill.setSize(KaButtonEnum::Size(size));
-        KaPillButtonConfig::Geometry g;
-        pill.fillGeometry(g);
+        const auto g = geometryOf(pill);
         QCOMPARE(g.fixedHeight > 0, pillSize);
         QCOMPARE(g.svgIconVisible, pillSize);
         QCOMPARE(g.anchorIconVisible, pillSize);
@@ -299,8 +305,7 @@ private Q_SLOTS:
         KaPillButtonConfig pill;
         pill.setHasLeftIcon(left);
         pill.setHasRightIcon(right);
-        KaPillButtonConfig::Geometry g;
-        pill.fillGeometry(g);
+        const auto g = geometryOf(pill);
         QCOMPARE(g.svgIconSize, left ? QSize(16, 16) : QSize(0, 0));
         QCOMPARE(g.svgIconSpacing, left ? 6 : 0);
         QCOMPARE(g.anchorIconSize, right ? QSize(16, 16) : QSize(0, 0));
@@ -349,8 +354,7 @@ private Q_SLOTS:
         // Always a refresh; the property signal only on a change.
         QCOMPARE(configSpy.count(), 1);
         QCOMPARE(policySpy.count(), policy == QSizePolicy::Maximum ? 0 : 1);
-        KaPillButtonConfig::Geometry g;
-        pill.fillGeometry(g);
+        const auto g = geometryOf(pill);
         QCOMPARE(int(g.sizePolicy.horizontalPolicy()), policy);
         QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
         QCOMPARE(g.sizePolicy.controlType(), QSizePolicy::DefaultType);
@@ -361,8 +365,7 @@ private Q_SLOTS:
         KaRoundButtonConfig round;
         QCOMPARE(round.size(), KaButtonEnum::Small);
         QCOMPARE(round.hasLeftIcon(), false);
-        KaRoundButtonConfig::Geometry g;
-        round.fillGeometry(g);
+        const auto g = geometryOf(round);
         QCOMPARE(g.fixedHeight, 32);
         QCOMPARE(g.sizePolicy.horizontalPolicy(), QSizePolicy::Fixed);
         QCOMPARE(g.sizePolicy.verticalPolicy(), QSizePolicy::Fixed);
@@ -372,16 +375,14 @@ private Q_SLOTS:
         KaRoundButtonConfig round;
         round.setHasLeftIcon(true);
         QSignalSpy configSpy(&round, &IKaButtonConfig::configChanged);
-        KaRoundButtonConfig::Geometry before;
-        round.fillGeometry(before);
+        const auto before = geometryOf(round);
 
         QTest::ignoreMessage(QtWarningMsg, kRefusal);
         round.setHasRightIcon(true);
 
         QCOMPARE(configSpy.count(), 0);
         QCOMPARE(round.hasLeftIcon(), true);
-        KaRoundButtonConfig::Geometry after;
-        round.fillGeometry(after);
+        const auto after = geometryOf(round);
         QCOMPARE(after.colors, before.colors);
         QCOMPARE(after.svgIconSize, before.svgIconSize);
     }
@@ -431,8 +432,7 @@ private Q_SLOTS:
         QCOMPARE(active.colors.textColorSet != inactive.colors.textColorSet, typed);
 
         const ButtonTest::HighContrastScope on(true);
-        KaButtonConfigRecord record;
-        config.fillConfig(record);
+        const KaButtonConfigRecord record = recordOf(config);
         QCOMPARE(record.colors.textColorSet, inactive.colors.textColorSet);
         QCOMPARE(record.colors.backgroundColorSet, inactive.colors.backgroundColorSet);
         QCOMPARE(record.colors.borderColorSet, QStringLiteral("button-primary-border"));
@@ -450,8 +450,7 @@ private Q_SLOTS:
         QCOMPARE(configSpy.count(), 1);
         // The custom value is not an icon button's: no accelerator type.
         config.setCustomValue(5);
-        KaButtonConfigRecord record;
-        config.fillConfig(record);
+        const KaButtonConfigRecord record = recordOf(config);
         QCOMPARE(record.acceleratorType, 0);
     }
 
@@ -470,8 +469,7 @@ private Q_SLOTS:
         QFETCH(bool, coloured);
         KaOverlayButtonConfig config;
         config.setType(KaOverlayButtonEnum::Type(type));
-        KaButtonConfigRecord record;
-        config.fillConfig(record);
+        const KaButtonConfigRecord record = recordOf(config);
         if (coloured) {
             QCOMPARE(record.colors.backgroundColorSet, QStringLiteral("button-overlay-background"));
             QCOMPARE(record.colors.borderColorSet, QStringLiteral("button-overlay-border"));
@@ -490,11 +488,9 @@ private Q_SLOTS:
         config.setSize(KaOverlayButtonEnum::Micro);
         config.setSize(KaOverlayButtonEnum::Micro);
         QCOMPARE(sizeSpy.count(), 1);
-        KaOverlayButtonConfig::Geometry micro;
-        config.fillGeometry(micro, Qt::LeftToRight);
+        const auto micro = geometryOf(config, Qt::LeftToRight);
         config.setSize(KaOverlayButtonEnum::ExtraLarge);
-        KaOverlayButtonConfig::Geometry large;
-        config.fillGeometry(large, Qt::LeftToRight);
+        const auto large = geometryOf(config, Qt::LeftToRight);
         QVERIFY(micro.fixedHeight < large.fixedHeight);
     }
 
