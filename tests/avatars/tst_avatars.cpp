@@ -109,8 +109,8 @@ private Q_SLOTS:
     void iconInItsColour_data() {
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("color");
-        QTest::newRow("warning") << int(IconBadgeWarning) << QStringLiteral("label-warning-text");
-        QTest::newRow("unread") << int(IconBadgeUnread) << QStringLiteral("badge-background");
+        QTest::newRow("warning") << int(IconBadgeWarning) << "label-warning-text";
+        QTest::newRow("unread") << int(IconBadgeUnread) << "badge-background";
     }
 
     // A 14-pixel icon in the type's colour, in every theme.
@@ -146,8 +146,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("legacy");
         QTest::addColumn<QString>("background");
         QTest::addColumn<bool>("roundEnds");
-        QTest::newRow("modern") << false << QStringLiteral("badge-background") << true;
-        QTest::newRow("legacy") << true << QStringLiteral("badge-secondary-background") << false;
+        QTest::newRow("modern") << false << "badge-background" << true;
+        QTest::newRow("legacy") << true << "badge-secondary-background" << false;
     }
 
     // The face takes the look's colour, its corners the look's radius, and both
@@ -178,11 +178,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("background");
         QTest::addColumn<bool>("icon");
         QTest::newRow("DefaultBadge")
-            << int(KaBadgeEnum::DefaultBadge) << QStringLiteral("alertbadge-default-background") << false;
+            << int(KaBadgeEnum::DefaultBadge) << "alertbadge-default-background" << false;
         QTest::newRow("Announcement")
-            << int(KaBadgeEnum::Announcement) << QStringLiteral("alertbadge-announcement-background") << true;
+            << int(KaBadgeEnum::Announcement) << "alertbadge-announcement-background" << true;
         QTest::newRow("AlertGeneral")
-            << int(KaBadgeEnum::AlertGeneral) << QStringLiteral("alertbadge-blocked-background") << true;
+            << int(KaBadgeEnum::AlertGeneral) << "alertbadge-blocked-background" << true;
     }
 
     // Each style paints its face, shows its icon 8 px in, and follows a theme
@@ -356,11 +356,10 @@ private Q_SLOTS:
         QTest::addColumn<QSize>("canvas");
         QTest::newRow("unknown size")
             << 7 << 0 << int(KaAvatarEnum::DefaultAvatar)
-            << QStringLiteral("KaPixmapLoader: unknown avatar size 7, using the default sizes")
-            << QSize(32, 32);
+            << "KaPixmapLoader: unknown avatar size 7, using the default sizes" << QSize(32, 32);
         QTest::newRow("unknown presence")
             << int(KaAvatarEnum::Medium) << 15 << int(KaAvatarEnum::DefaultAvatar)
-            << QStringLiteral("KaPixmapLoader: unknown presence 15, showing none") << QSize(48, 48);
+            << "KaPixmapLoader: unknown presence 15, showing none" << QSize(48, 48);
         QTest::newRow("image without picture")
             << int(KaAvatarEnum::Medium) << 0 << int(KaAvatarEnum::Image) << QString() << QSize(48, 48);
     }

@@ -765,7 +765,7 @@ private Q_SLOTS:
     void accessibleText_data() {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("null name takes the text") << QString() << QStringLiteral("Connection lost");
+        QTest::newRow("null name takes the text") << QString() << "Connection lost";
         QTest::newRow("own name") << QStringLiteral("Error: connection lost")
                                   << QStringLiteral("Error: connection lost");
         QTest::newRow("empty name stays empty") << QStringLiteral("") << QStringLiteral("");
@@ -840,9 +840,9 @@ private Q_SLOTS:
 
     void keyboardFocusRing_data() {
         QTest::addColumn<QString>("target");
-        QTest::newRow("banner") << QStringLiteral("KaAlertBanner");
-        QTest::newRow("text") << QStringLiteral("alertBannerText");
-        QTest::newRow("dismiss") << QStringLiteral("dismissButton");
+        QTest::newRow("banner") << "KaAlertBanner";
+        QTest::newRow("text") << "alertBannerText";
+        QTest::newRow("dismiss") << "dismissButton";
     }
 
     void keyboardFocusRing() {

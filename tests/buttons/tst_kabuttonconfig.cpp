@@ -131,10 +131,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("drawn");
         QTest::newRow("empty") << QString() << false;
-        QTest::newRow("spaces") << QStringLiteral("   ") << false;
-        QTest::newRow("tab and newline") << QStringLiteral("\t\n") << false;
-        QTest::newRow("name") << QStringLiteral("button-secondary-border") << true;
-        QTest::newRow("padded name") << QStringLiteral(" button-layout-border ") << true;
+        QTest::newRow("spaces") << "   " << false;
+        QTest::newRow("tab and newline") << "\t\n" << false;
+        QTest::newRow("name") << "button-secondary-border" << true;
+        QTest::newRow("padded name") << " button-layout-border " << true;
     }
 
     void blankBorderIsNoBorder() {
@@ -504,12 +504,10 @@ private Q_SLOTS:
 
         const QString secondary = QStringLiteral("button-secondary-background");
         QTest::newRow("LabelIconSecondary") << 0x33 << false << false << secondary << true;
-        QTest::newRow("LabelIconPrimary")
-            << 0x32 << false << false << QStringLiteral("button-primary-background") << false;
+        QTest::newRow("LabelIconPrimary") << 0x32 << false << false << "button-primary-background" << false;
         QTest::newRow("IconLabelSecondary") << 0x133 << true << false << secondary << true;
         QTest::newRow("LabelArrowSecondary") << 0x93 << false << true << secondary << true;
-        QTest::newRow("LabelArrowGreen")
-            << 0x97 << false << true << QStringLiteral("button-join-fill-background") << false;
+        QTest::newRow("LabelArrowGreen") << 0x97 << false << true << "button-join-fill-background" << false;
     }
 
     void comboStyleDecoding() {
@@ -551,7 +549,7 @@ private Q_SLOTS:
         QCOMPARE(rg.roundStart, false);
         QCOMPARE(rg.roundEnd, true);
         // Label alignment and the icon cell's size and arrow: through the
-        // widget, in tst_kadualcombobutton's decodesCode.
+        // widget, in tst_ikabutton's decodesCode.
     }
 
     void iconStyleDecoding_data() {
@@ -606,7 +604,7 @@ private Q_SLOTS:
             firstSides[vertical ? 2 : 1] = false;
         QCOMPARE(fg.colors.hasBorder, firstSides);
         QCOMPARE(sg.colors.hasBorder, secondSides);
-        // The cells' sizes: through the widget, in tst_kadualiconbutton's arrangement.
+        // The cells' sizes: through the widget, in tst_ikabutton's arrangement.
     }
 
     void cellGeometryBySize_data() {
