@@ -1183,8 +1183,6 @@ private Q_SLOTS:
         QVERIFY(!second->state().checkable);
     }
 
-    void initTestCase() { BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light")); }
-
     // KaButton.
     void setStyleAlwaysNotifies_data() {
         QTest::addColumn<int>("first");
@@ -1648,12 +1646,7 @@ private Q_SLOTS:
     }
 
     // KaRoundButton.
-    void roundCircleBySize_data() {
-        QTest::addColumn<int>("size");
-        const QMetaEnum sizes = QMetaEnum::fromType<KaButtonEnum::Size>();
-        for (int i = 0; i < sizes.keyCount(); ++i)
-            QTest::newRow(sizes.key(i)) << sizes.value(i);
-    }
+    void roundCircleBySize_data() { addEnumRows<KaButtonEnum::Size>("size"); }
 
     // A circle of the configuration's diameter, whatever the size.
     void roundCircleBySize() {
@@ -1794,12 +1787,7 @@ private Q_SLOTS:
     }
 
     // KaIconButton.
-    void squareBySize_data() {
-        QTest::addColumn<int>("size");
-        const QMetaEnum sizes = QMetaEnum::fromType<KaButtonEnum::Size>();
-        for (int i = 0; i < sizes.keyCount(); ++i)
-            QTest::newRow(sizes.key(i)) << sizes.value(i);
-    }
+    void squareBySize_data() { addEnumRows<KaButtonEnum::Size>("size"); }
 
     // The configuration's side and icon size.
     void squareBySize() {
@@ -1883,12 +1871,7 @@ private Q_SLOTS:
         QTRY_COMPARE(button.svgIcon(), ltr);
     }
 
-    void overlayCircleBySize_data() {
-        QTest::addColumn<int>("size");
-        const QMetaEnum sizes = QMetaEnum::fromType<KaOverlayButtonEnum::Size>();
-        for (int i = 0; i < sizes.keyCount(); ++i)
-            QTest::newRow(sizes.key(i)) << sizes.value(i);
-    }
+    void overlayCircleBySize_data() { addEnumRows<KaOverlayButtonEnum::Size>("size"); }
 
     void overlayCircleBySize() {
         QFETCH(int, size);

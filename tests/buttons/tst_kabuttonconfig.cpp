@@ -607,12 +607,7 @@ private Q_SLOTS:
         // The cells' sizes: through the widget, in tst_ikabutton's arrangement.
     }
 
-    void cellGeometryBySize_data() {
-        QTest::addColumn<int>("size");
-        const QMetaEnum sizes = QMetaEnum::fromType<KaDualButtonEnum::Size>();
-        for (int i = 0; i < sizes.keyCount(); ++i)
-            QTest::newRow(sizes.key(i)) << sizes.value(i);
-    }
+    void cellGeometryBySize_data() { ButtonTest::addEnumRows<KaDualButtonEnum::Size>("size"); }
 
     // Both cells are as tall as each other; the arrow cell's paddings and icon
     // make up its length; the label cell never gets narrower than a square.

@@ -12,6 +12,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QImage>
+#include <QMetaEnum>
 #include <QTest>
 #include <QWidget>
 
@@ -71,6 +72,14 @@ inline QAccessible::Role accessibleRole(QObject* object) {
 inline QString accessibleName(QObject* object) {
     QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(object);
     return iface ? iface->text(QAccessible::Name) : QStringLiteral("<no interface>");
+}
+
+// One row per key of the enumeration `E`, its value in the int column `column`.
+template <typename E> void addEnumRows(const char* column) {
+    QTest::addColumn<int>(column);
+    const QMetaEnum keys = QMetaEnum::fromType<E>();
+    for (int i = 0; i < keys.keyCount(); ++i)
+        QTest::newRow(keys.key(i)) << keys.value(i);
 }
 
 // Sets the process-wide flag and restores it even when a check fails half-way.
