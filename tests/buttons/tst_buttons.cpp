@@ -984,13 +984,8 @@ private Q_SLOTS:
         QVERIFY(shown.button->iconCell()->isDown());
         menu.hide();
         QTRY_VERIFY(!shown.button->iconCell()->isDown());
-    }
 
-    void keyboardOpensMenu() {
-        Shown shown(KaDualButtonEnum::LabelArrowSecondary);
-        QMenu menu;
-        menu.addAction(QStringLiteral("Audio only"));
-        shown.button->setMenu(&menu);
+        // Alt+Down on the label cell opens it as well; without a menu the arrow opens nothing.
         QTest::keyClick(shown.button->labelCell(), Qt::Key_Down, Qt::AltModifier);
         QTRY_VERIFY(menu.isVisible());
         menu.hide();
