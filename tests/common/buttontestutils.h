@@ -9,8 +9,10 @@
 #include "kaconfig.h"
 #include "karvexutils.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QImage>
+#include <QMetaEnum>
 #include <QTest>
 #include <QWidget>
 
@@ -38,6 +40,46 @@ inline QColor colorOf(const char* set, BzThemeUtils::AppThemeType type = BzTheme
 inline void switchTheme(const char* name) {
     BzThemeManager::instance()->setCurrentTheme(QString::fromLatin1(name), BzThemeManager::DataOnly);
     KarvexUtils::updateSolvaneThemes();
+}
+
+inline bool paints(QWidget* widget, const QPoint& at, const char* set, int tolerance) {
+    const QColor painted = pixelAt(widget, at);
+    const QColor expected = colorOf(set);
+    return qAbs(painted.red() - expected.red()) <= tolerance &&
+           qAbs(painted.green() - expected.green()) <= tolerance &&
+           qAbs(painted.blue() - expected.blue()) <= tolerance &&
+           (tolerance || painted.alpha() == expected.alpha());
+}
+
+// `widget` paints `set` at `at` in the current theme and, once switched to
+// `theme`, that theme's colour of the set, which must be another.
+inline void checkFollowsTheme(QWidget* widget, const QPoint& at, const char* set, const char* theme = "dark",
+                              int tolerance = 0) {
+    QVERIFY2(paints(widget, at, set, tolerance), set);
+    const QColor before = pixelAt(widget, at);
+    switchTheme(theme);
+    QVERIFY2(before.rgb() != colorOf(set).rgb(), set);
+    QTRY_VERIFY2(paints(widget, at, set, tolerance), set);
+}
+
+// What assistive technology is told of `object`; an invalid role and no name
+// when it gets no interface.
+inline QAccessible::Role accessibleRole(QObject* object) {
+    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(object);
+    return iface ? iface->role() : QAccessible::NoRole;
+}
+
+inline QString accessibleName(QObject* object) {
+    QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(object);
+    return iface ? iface->text(QAccessible::Name) : QStringLiteral("<no interface>");
+}
+
+// One row per key of the enumeration `E`, its value in the int column `column`.
+template <typename E> void addEnumRows(const char* column) {
+    QTest::addColumn<int>(column);
+    const QMetaEnum keys = QMetaEnum::fromType<E>();
+    for (int i = 0; i < keys.keyCount(); ++i)
+        QTest::newRow(keys.key(i)) << keys.value(i);
 }
 
 // Sets the process-wide flag and restores it even when a check fails half-way.

@@ -1,20 +1,39 @@
 #include "accessibilityrecorder.h"
+#include "kacontrolhandle.h"
 #include "kalabel.h"
+#include "kamoreinfobutton.h"
 #include "kapopover.h"
+#include "kapopuputils.h"
+#include "katooltip.h"
+#include "kawidgetdata.h"
 
-#include <bzthememanager.h>
-
+#include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QHelpEvent>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMetaEnum>
+#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
-
+#include <QToolTip>
+#include <QWidget>
+#include <bzthememanager.h>
+#include <drawutils.h>
+#include <karvexutils.h>
 #include <memory>
+
+using namespace KaPopupUtils;
+using Side = KaPopupEnum::Alignment;
 
 Q_DECLARE_METATYPE(KaPopupEnum::Alignment)
 
@@ -27,6 +46,63 @@ QRect screenArea() {
 const QString kLongText = QStringLiteral(
     "This is a long explanation that cannot possibly fit on one line of a popover, so it has to wrap "
     "over several lines before the bubble gets wider than the design allows.");
+
+QString css(const char* set, BzThemeUtils::AppThemeType type = BzThemeUtils::Global) {
+    return BzThemeUtils::colorToCss(BzThemeUtils::getColorSet(set, type).normal());
+}
+
+// The arrow's tip row or column in global coordinates for a popup at `p`
+// of `size` on `side`, and the anchor row or column it must keep
+// AnchorGap free pixels from.
+void checkTipGap(Side side, const QPoint& p, const QSize& size, const QRect& anchor) {
+    switch (side) {
+    case KaPopupEnum::Top:
+        QCOMPARE(p.y() + size.height() - 1 - ShadowMargin, anchor.top() - AnchorGap - 1);
+        break;
+    case KaPopupEnum::Left:
+        QCOMPARE(p.x() + size.width() - 1 - ShadowMargin, anchor.left() - AnchorGap - 1);
+        break;
+    case KaPopupEnum::Right:
+        QCOMPARE(p.x() + ShadowMargin, anchor.right() + 1 + AnchorGap);
+        break;
+    default:
+        QCOMPARE(p.y() + ShadowMargin, anchor.bottom() + 1 + AnchorGap);
+        break;
+    }
+}
+
+QImage render(const Bubble& bubble, qreal dpr) {
+    QImage image(DrawUtils::toDevicePixels(QSizeF(bubble.size), dpr), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(dpr);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    paintBubble(&painter, bubble);
+    return image;
+}
+
+// Colour of the logical pixel (x, y): every device pixel under it must agree.
+QColor logicalPixel(const QImage& image, int x, int y) {
+    const int dpr = qRound(image.devicePixelRatio());
+    const QColor first = image.pixelColor(x * dpr, y * dpr);
+    for (int dy = 0; dy < dpr; ++dy)
+        for (int dx = 0; dx < dpr; ++dx)
+            if (image.pixelColor(x * dpr + dx, y * dpr + dy) != first)
+                return QColor(); // blurred across the logical pixel
+    return first;
+}
+
+int alphaAt(const QImage& image, int x, int y) {
+    const int dpr = qRound(image.devicePixelRatio());
+    return qAlpha(image.pixel(x * dpr, y * dpr));
+}
+
+// A handle whose anchor, a `T`, is already deleted.
+template <typename T> KaControlHandle deadHandle() {
+    auto* anchor = new T;
+    const KaControlHandle handle(anchor);
+    delete anchor;
+    return handle;
+}
 
 class MoveCounter : public QObject {
 public:
@@ -74,11 +150,19 @@ private Q_SLOTS:
     void init() {
         BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
         AccessibilityRecorder::clear();
+        f = std::make_unique<Fixture>();
+        QVERIFY(f->ready());
     }
 
+    // Popovers still open are closed before their window goes; those that
+    // closed themselves are deleted later. The tooltip is hidden.
     void cleanup() {
-        // Popovers that closed themselves are deleted later.
+        for (KaPopover* popover : f->window.findChildren<KaPopover*>())
+            popover->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        f.reset();
+        KaToolTip::hideText();
+        QTRY_VERIFY(!KaToolTip::isVisible());
     }
 
     void placement_data() {
@@ -97,13 +181,11 @@ private Q_SLOTS:
         const auto position = KaWidgetData::ArrowPostion(arrow);
         const bool none = position == KaWidgetData::ArrowNone;
         QCOMPARE(KaPopover::toAlignment(position), none ? KaPopupEnum::None : side);
-        Fixture f;
-        QVERIFY(f.ready());
-        QPointer<KaPopover> popover = f.show(QStringLiteral("Hello"), KaWidgetData().arrowPostion(position));
+        QPointer<KaPopover> popover = f->show(QStringLiteral("Hello"), KaWidgetData().arrowPostion(position));
         QVERIFY(popover->isVisible());
         QCOMPARE(popover->arrowPosition(), position);
         QCOMPARE(popover->shownAlignment(), side);
-        const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
+        const QRect anchor(f->anchor.mapToGlobal(QPoint(0, 0)), f->anchor.size());
         const QRect body = popover->bodyRect().translated(popover->pos());
         // Without an arrow the body itself comes up to the gap.
         const int gap = KaPopupUtils::AnchorGap + (none ? 0 : KaPopupUtils::ArrowLength);
@@ -140,7 +222,6 @@ private Q_SLOTS:
                                     KaPopupUtils::ArrowLength);
         // The arrow band moved to the edge that faces the anchor.
         QCOMPARE(popover->bodyRect(), KaPopupUtils::bodyRect(popover->size(), KaPopupEnum::Top, true));
-        popover->close();
     }
 
     void alignmentAlongEdge_data() {
@@ -154,43 +235,34 @@ private Q_SLOTS:
     void alignmentAlongEdge() {
         QFETCH(int, alignment);
         QFETCH(int, arrow);
-        Fixture f;
-        QVERIFY(f.ready());
         const KaWidgetData data = KaWidgetData()
                                       .alignment(KaWidgetData::Alignment(alignment))
                                       .arrowPostion(KaWidgetData::ArrowPostion(arrow));
-        QPointer<KaPopover> popover = f.show(kLongText, data);
-        const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
+        QPointer<KaPopover> popover = f->show(kLongText, data);
+        const QRect anchor(f->anchor.mapToGlobal(QPoint(0, 0)), f->anchor.size());
         const QRect body = popover->bodyRect().translated(popover->pos());
         const bool start = alignment == KaWidgetData::AlignStart;
         if (arrow == KaWidgetData::ArrowTop)
             QCOMPARE(start ? body.left() : body.right(), start ? anchor.left() : anchor.right());
         else
             QCOMPARE(start ? body.top() : body.bottom(), start ? anchor.top() : anchor.bottom());
-        popover->close();
     }
 
     void offsetMoves() {
-        Fixture f;
-        QVERIFY(f.ready());
-        QCOMPARE(f.open(KaWidgetData().offset(QPoint(5, -7)))->pos(), f.open()->pos() + QPoint(5, -7));
+        QCOMPARE(f->open(KaWidgetData().offset(QPoint(5, -7)))->pos(), f->open()->pos() + QPoint(5, -7));
     }
 
     void fitInMainWindow() {
-        Fixture f;
-        QVERIFY(f.ready());
-        f.anchor.move(250, 90); // near the window's right edge
+        f->anchor.move(250, 90); // near the window's right edge
         const KaWidgetData data = KaWidgetData().arrowPostion(KaWidgetData::ArrowBottom);
         const QString wide = QStringLiteral("A fairly wide popover text");
-        QVERIFY(!f.window.geometry().contains(f.open(data, new KaLabel(wide))->geometry()));
-        const auto fitted = f.open(KaWidgetData(data).fitInMainWindowGeometry(true), new KaLabel(wide));
-        QCOMPARE(fitted->geometry().right(), f.window.geometry().right());
+        QVERIFY(!f->window.geometry().contains(f->open(data, new KaLabel(wide))->geometry()));
+        const auto fitted = f->open(KaWidgetData(data).fitInMainWindowGeometry(true), new KaLabel(wide));
+        QCOMPARE(fitted->geometry().right(), f->window.geometry().right());
     }
 
     void setArrowPosition() {
-        Fixture f;
-        QVERIFY(f.ready());
-        const auto owner = f.open();
+        const auto owner = f->open();
         KaPopover& popover = *owner;
         QSignalSpy spy(&popover, &KaPopover::arrowPositionChanged);
         const QPoint below = popover.pos();
@@ -208,9 +280,7 @@ private Q_SLOTS:
     }
 
     void textPopoverWraps() {
-        Fixture f;
-        QVERIFY(f.ready());
-        QPointer<KaPopover> popover = f.show(kLongText);
+        QPointer<KaPopover> popover = f->show(kLongText);
         auto* label = qobject_cast<KaLabel*>(popover->contentWidget());
         QVERIFY(label);
         QVERIFY(label->wordWrap());
@@ -222,34 +292,26 @@ private Q_SLOTS:
         QVERIFY(popover->bodyRect().contains(label->geometry()));
 
         // Wider side popovers keep the same body width.
-        QPointer<KaPopover> side = f.show(kLongText, KaWidgetData().arrowPostion(KaWidgetData::ArrowLeft));
+        QPointer<KaPopover> side = f->show(kLongText, KaWidgetData().arrowPostion(KaWidgetData::ArrowLeft));
         QCOMPARE(side->bodyRect().width(), KaWidgetData::maxPopoverWidth);
-        popover->close();
-        side->close();
     }
 
     void shortTextStaysNarrow() {
-        Fixture f;
-        QVERIFY(f.ready());
-        QPointer<KaPopover> popover = f.show(QStringLiteral("Hi"));
+        QPointer<KaPopover> popover = f->show(QStringLiteral("Hi"));
         auto* label = qobject_cast<KaLabel*>(popover->contentWidget());
         QVERIFY(popover->bodyRect().width() < KaWidgetData::maxPopoverWidth / 2);
         QCOMPARE(label->height(), label->sizeHint().height());
-        popover->close();
     }
 
     void headerText() {
-        Fixture f;
-        QVERIFY(f.ready());
         QPointer<KaPopover> popover =
-            f.show(QStringLiteral("Body"), KaWidgetData().headerText(QStringLiteral("Title")));
+            f->show(QStringLiteral("Body"), KaWidgetData().headerText(QStringLiteral("Title")));
         QVERIFY(popover->headerLabel());
         QCOMPARE(popover->headerLabel()->text(), QStringLiteral("Title"));
         QVERIFY(popover->headerLabel()->geometry().bottom() < popover->contentWidget()->geometry().top());
         QVERIFY(popover->headerLabel()->font().pixelSize() > popover->contentWidget()->font().pixelSize());
-        popover->close();
 
-        KaPopover bare(&f.anchor, &f.window);
+        KaPopover bare(&f->anchor, &f->window);
         QCOMPARE(bare.headerLabel(), nullptr);
     }
 
@@ -269,11 +331,9 @@ private Q_SLOTS:
         QFETCH(bool, form);
         QFETCH(QAccessible::Role, role);
         QFETCH(QStringList, announced);
-        Fixture f;
-        QVERIFY(f.ready());
         QWidget* content = form ? static_cast<QWidget*>(new QLineEdit) : new QLabel(QStringLiteral("Body"));
         QPointer<KaPopover> popover = KaPopover::createAndShow(
-            content, &f.anchor, &f.window,
+            content, &f->anchor, &f->window,
             KaWidgetData().headerText(QStringLiteral("Title")).shouldTakeFocus(takeFocus));
         QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(popover.data());
         QCOMPARE(iface->role(), role);
@@ -308,46 +368,40 @@ private Q_SLOTS:
     void autoDismiss() {
         QFETCH(bool, autoDismiss);
         QFETCH(bool, escape);
-        Fixture f;
-        QVERIFY(f.ready());
-        QPointer<KaPopover> popover = f.show(
+        QPointer<KaPopover> popover = f->show(
             QStringLiteral("x"), KaWidgetData().autoDismiss(autoDismiss).dismissWithParentFocused(false));
         QSignalSpy dismissed(popover.data(), &KaPopover::dismissed);
         // Clicks inside or on the anchor never dismiss.
         QTest::mouseClick(popover.data(), Qt::LeftButton, {}, popover->bodyRect().center());
-        QTest::mouseClick(&f.anchor, Qt::LeftButton);
+        QTest::mouseClick(&f->anchor, Qt::LeftButton);
         QVERIFY(popover->isVisible());
         if (escape)
             QTest::keyClick(popover.data(), Qt::Key_Escape);
         else
-            QTest::mouseClick(&f.other, Qt::LeftButton);
+            QTest::mouseClick(&f->other, Qt::LeftButton);
         if (autoDismiss) {
             QCOMPARE(dismissed.count(), 1);
             QTRY_VERIFY(popover.isNull());
         } else {
             QVERIFY(popover->isVisible());
             QCOMPARE(dismissed.count(), 0);
-            popover->close();
         }
     }
 
     void timedDismissal() {
-        Fixture f;
-        QVERIFY(f.ready());
         QElapsedTimer clock;
         clock.start();
-        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().dismissTimerTicks(3));
+        QPointer<KaPopover> popover = f->show(QStringLiteral("x"), KaWidgetData().dismissTimerTicks(3));
         QSignalSpy dismissed(popover.data(), &KaPopover::dismissed);
         QVERIFY(dismissed.wait(5000));
         QVERIFY(clock.elapsed() >= 3 * KaPopover::DismissTickMs - 20);
         QTRY_VERIFY(popover.isNull());
 
         // Without ticks it stays.
-        QPointer<KaPopover> lasting = f.show(QStringLiteral("x"));
+        QPointer<KaPopover> lasting = f->show(QStringLiteral("x"));
         QSignalSpy none(lasting.data(), &KaPopover::dismissed);
         QVERIFY(!none.wait(5 * KaPopover::DismissTickMs));
         QVERIFY(lasting->isVisible());
-        lasting->close();
     }
 
     void dismissWithParentFocused_data() {
@@ -366,20 +420,16 @@ private Q_SLOTS:
         QFETCH(bool, skipDeep);
         QFETCH(bool, focusParentItself);
         QFETCH(bool, dismissed);
-        Fixture f;
-        QVERIFY(f.ready());
-        f.window.setFocusPolicy(Qt::StrongFocus);
+        f->window.setFocusPolicy(Qt::StrongFocus);
         const KaWidgetData data =
             KaWidgetData().dismissWithParentFocused(dismissWithParentFocused).skipDeepFocusCheck(skipDeep);
-        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), data);
+        QPointer<KaPopover> popover = f->show(QStringLiteral("x"), data);
         QSignalSpy spy(popover.data(), &KaPopover::dismissed);
-        QWidget* target = focusParentItself ? &f.window : static_cast<QWidget*>(&f.other);
-        f.window.activateWindow();
+        QWidget* target = focusParentItself ? &f->window : static_cast<QWidget*>(&f->other);
+        f->window.activateWindow();
         target->setFocus(Qt::OtherFocusReason);
         QTRY_COMPARE(QApplication::focusWidget(), target);
         QCOMPARE(spy.count(), dismissed ? 1 : 0);
-        if (popover)
-            popover->close();
     }
 
     void sourceMove_data() {
@@ -393,21 +443,19 @@ private Q_SLOTS:
     void sourceMove() {
         QFETCH(bool, dismissOnMove);
         QFETCH(bool, moveWithSource);
-        Fixture f;
-        QVERIFY(f.ready());
         QPointer<KaPopover> popover =
-            f.show(QStringLiteral("x"),
-                   KaWidgetData().dismissPopupOnSourceMove(dismissOnMove).moveWithSource(moveWithSource));
+            f->show(QStringLiteral("x"),
+                    KaWidgetData().dismissPopupOnSourceMove(dismissOnMove).moveWithSource(moveWithSource));
         QSignalSpy spy(popover.data(), &KaPopover::dismissed);
         // Counts the window's move events: once one has arrived, the popover has
         // seen it too, so "nothing happened" below is a real observation.
         MoveCounter windowMoves;
-        f.window.installEventFilter(&windowMoves);
+        f->window.installEventFilter(&windowMoves);
         const QPoint before = popover->pos();
 
         // Other widgets moving is no concern of the popover.
-        f.other.move(f.other.pos() + QPoint(5, 5));
-        f.window.move(f.window.pos() + QPoint(-30, 20));
+        f->other.move(f->other.pos() + QPoint(5, 5));
+        f->window.move(f->window.pos() + QPoint(-30, 20));
         QTRY_VERIFY(windowMoves.moves > 0);
         if (dismissOnMove) {
             QTRY_COMPARE(spy.count(), 1);
@@ -418,10 +466,9 @@ private Q_SLOTS:
         QTRY_COMPARE(popover->pos(), moveWithSource ? before + QPoint(-30, 20) : before);
 
         // Moving the anchor inside its window counts as well (delivered at once).
-        f.anchor.move(f.anchor.pos() + QPoint(10, 0));
+        f->anchor.move(f->anchor.pos() + QPoint(10, 0));
         QCOMPARE(popover->pos().x(), moveWithSource ? before.x() - 30 + 10 : before.x());
         QCOMPARE(spy.count(), 0);
-        popover->close();
     }
 
     void focusSourceOnClose_data() {
@@ -431,45 +478,38 @@ private Q_SLOTS:
     }
     void focusSourceOnClose() {
         QFETCH(bool, focusSource);
-        Fixture f;
-        QVERIFY(f.ready());
         // The window would give focus back to its own focus widget anyway.
-        f.window.activateWindow();
-        f.other.setFocus();
-        QTRY_VERIFY(f.other.hasFocus());
+        f->window.activateWindow();
+        f->other.setFocus();
+        QTRY_VERIFY(f->other.hasFocus());
         QPointer<KaPopover> popover =
-            f.show(QStringLiteral("x"), KaWidgetData().activateOnShow(true).focusSourceOnClose(focusSource));
+            f->show(QStringLiteral("x"), KaWidgetData().activateOnShow(true).focusSourceOnClose(focusSource));
         QTRY_VERIFY(popover->isActiveWindow());
         QTRY_COMPARE(QApplication::focusWidget(), popover.data());
         QTest::keyClick(popover.data(), Qt::Key_Escape);
         QTRY_VERIFY(popover.isNull());
-        f.window.activateWindow();
-        QTRY_VERIFY(f.window.isActiveWindow());
-        QCOMPARE(f.anchor.hasFocus(), focusSource);
-        QCOMPARE(f.other.hasFocus(), !focusSource);
+        f->window.activateWindow();
+        QTRY_VERIFY(f->window.isActiveWindow());
+        QCOMPARE(f->anchor.hasFocus(), focusSource);
+        QCOMPARE(f->other.hasFocus(), !focusSource);
     }
 
     void noFocusWhenNotTaking() {
-        Fixture f;
-        QVERIFY(f.ready());
-        f.other.setFocus();
-        QTRY_VERIFY(f.other.hasFocus());
-        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().shouldTakeFocus(false));
+        f->other.setFocus();
+        QTRY_VERIFY(f->other.hasFocus());
+        QPointer<KaPopover> popover = f->show(QStringLiteral("x"), KaWidgetData().shouldTakeFocus(false));
         QVERIFY(!popover->hasFocus());
-        QVERIFY(f.other.hasFocus());
-        popover->close();
+        QVERIFY(f->other.hasFocus());
     }
 
     void transparentBackground() {
-        Fixture f;
-        QVERIFY(f.ready());
         const KaPopupUtils::PopupColors colors = KaPopupUtils::popupColors();
 
-        const auto bubble = f.open(KaWidgetData(), new QWidget);
+        const auto bubble = f->open(KaWidgetData(), new QWidget);
         QVERIFY(bubble->testAttribute(Qt::WA_TranslucentBackground));
         QCOMPARE(qAlpha(bubble->grab().toImage().pixel(0, 0)), 0);
 
-        const auto owner = f.open(KaWidgetData().shouldHaveTransparentBackground(false), new QWidget);
+        const auto owner = f->open(KaWidgetData().shouldHaveTransparentBackground(false), new QWidget);
         KaPopover& opaque = *owner;
         QVERIFY(!opaque.testAttribute(Qt::WA_TranslucentBackground));
         QCOMPARE(opaque.bodyRect(), opaque.rect());
@@ -477,14 +517,12 @@ private Q_SLOTS:
         QCOMPARE(opaqueImage.pixelColor(0, 0), colors.border);
         QCOMPARE(opaqueImage.pixelColor(opaque.width() / 2, opaque.height() / 2), colors.background);
         // No shadow band: the window's edge sits where the body's would.
-        const QRect anchor(f.anchor.mapToGlobal(QPoint(0, 0)), f.anchor.size());
+        const QRect anchor(f->anchor.mapToGlobal(QPoint(0, 0)), f->anchor.size());
         QCOMPARE(opaque.geometry().top(), anchor.bottom() + 1 + KaPopupUtils::AnchorGap);
     }
 
     void reverseColors() {
-        Fixture f;
-        QVERIFY(f.ready());
-        QPointer<KaPopover> popover = f.show(QStringLiteral("x"), KaWidgetData().setReverseColor(true));
+        QPointer<KaPopover> popover = f->show(QStringLiteral("x"), KaWidgetData().setReverseColor(true));
         const QColor alternate = KaPopupUtils::popupColors(BzThemeUtils::Alternate).background;
         QVERIFY(alternate != KaPopupUtils::popupColors().background);
         const QImage image = popover->grab().toImage();
@@ -499,7 +537,6 @@ private Q_SLOTS:
         BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
         QTRY_COMPARE(popover->grab().toImage().pixelColor(centre.x(), popover->bodyRect().bottom() - 3),
                      KaPopupUtils::popupColors(BzThemeUtils::Light).background);
-        popover->close();
     }
 
     void anchorDeletedWhileShown() {
@@ -523,8 +560,599 @@ private Q_SLOTS:
         QVERIFY(!popover.isVisible());
     }
 
+    // KaWidgetData.
+    void negativeTicksClamped() {
+        QTest::ignoreMessage(QtWarningMsg, "KaWidgetData: negative dismiss timer ticks -2, using 0");
+        KaWidgetData d;
+        d.dismissTimerTicks(5).dismissTimerTicks(-2);
+        QCOMPARE(d.m_dismissTimerTicks, 0);
+    }
+
+    void toArrowPosition_data() {
+        QTest::addColumn<int>("arrow");
+        QTest::addColumn<KaWidgetData::ArrowPostion>("expected");
+        QTest::newRow("up") << int(Qt::UpArrow) << KaWidgetData::ArrowTop;
+        QTest::newRow("left") << int(Qt::LeftArrow) << KaWidgetData::ArrowLeft;
+        QTest::newRow("right") << int(Qt::RightArrow) << KaWidgetData::ArrowRight;
+        QTest::newRow("down") << int(Qt::DownArrow) << KaWidgetData::ArrowBottom;
+        QTest::newRow("none") << int(Qt::NoArrow) << KaWidgetData::ArrowNone;
+        // Unnamed, but still a value Qt::ArrowType can hold (0..7).
+        QTest::newRow("out of range") << 7 << KaWidgetData::ArrowNone;
+    }
+
+    void toArrowPosition() {
+        QFETCH(int, arrow);
+        QFETCH(KaWidgetData::ArrowPostion, expected);
+        QCOMPARE(KaWidgetData::toArrowPosition(Qt::ArrowType(arrow)), expected);
+    }
+
+    // KaMoreInfoButton, which opens a text popover.
+    void clickTogglesPopover() {
+        QWidget window;
+        window.resize(400, 300);
+        KaMoreInfoButton button(QStringLiteral("Calls are recorded for training."), &window);
+        button.move(180, 130);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QSignalSpy shown(&button, &KaMoreInfoButton::popupShown);
+        QSignalSpy hidden(&button, &KaMoreInfoButton::popupHidden);
+
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QCOMPARE(shown.count(), 1);
+        QVERIFY(button.isPopupVisible());
+        QWidget* text = button.popover()->contentWidget();
+        QVERIFY(text);
+        // The focus ring must never surround the popover's text.
+        QCOMPARE(text->objectName(), QStringLiteral("MoreInfoButtonPopupText"));
+
+        button.hidePopup();
+        QTRY_COMPARE(hidden.count(), 1);
+        QVERIFY(!button.isPopupVisible());
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QCOMPARE(shown.count(), 2);
+        QTest::mouseClick(&button, Qt::LeftButton); // a second click closes it
+        QTRY_VERIFY(!button.isPopupVisible());
+    }
+
+    void popoverSideFollowsDirection_data() {
+        QTest::addColumn<int>("direction");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("none opens below") << int(KaPopupEnum::None) << int(KaPopupEnum::Bottom);
+        QTest::newRow("left") << int(KaPopupEnum::Left) << int(KaPopupEnum::Left);
+    }
+
+    void popoverSideFollowsDirection() {
+        QFETCH(int, direction);
+        QFETCH(int, expected);
+        QWidget window;
+        window.resize(600, 500);
+        KaMoreInfoButton button(QStringLiteral("Short"), &window);
+        button.move(280, 230);
+        button.setPopupDirection(KaPopupEnum::Alignment(direction));
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        button.showPopup();
+        QVERIFY(button.popover());
+        QCOMPARE(int(button.popover()->alignment()), expected);
+        button.hidePopup();
+    }
+
+    void emptyTextOpensNothing() {
+        KaMoreInfoButton button;
+        QSignalSpy shown(&button, &KaMoreInfoButton::popupShown);
+        button.showPopup();
+        QCOMPARE(shown.count(), 0);
+        QVERIFY(!button.popover());
+    }
+
+    void badDirectionIgnored() {
+        KaMoreInfoButton button;
+        QSignalSpy changed(&button, &KaMoreInfoButton::popupDirectionChanged);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("not a side")));
+        button.setPopupDirection(KaPopupEnum::Alignment(9));
+        QCOMPARE(button.popupDirection(), KaPopupEnum::None);
+        button.setPopupDirection(KaPopupEnum::Left);
+        button.setPopupDirection(KaPopupEnum::Left);
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void accessibility() {
+        const AccessibilityRecorder::RecordingScope recording;
+        QWidget window;
+        window.resize(400, 300);
+        KaMoreInfoButton button(QStringLiteral("Details"), &window);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QAccessibleInterface* iface = QAccessible::queryAccessibleInterface(&button);
+        QVERIFY(iface);
+        QCOMPARE(iface->role(), QAccessible::Button);
+        QVERIFY(!iface->text(QAccessible::Name).isEmpty());
+        QCOMPARE(iface->text(QAccessible::Description), QStringLiteral("Details"));
+
+        // Read out once, by the popover: Qt's Linux bridge drops value changes
+        // from objects without a value, such as the button.
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QCOMPARE(AccessibilityRecorder::announcements(), QStringList{QStringLiteral("Details")});
+        QCOMPARE(AccessibilityRecorder::eventsOfType(QAccessible::ValueChanged).first().object,
+                 button.popover());
+        QVERIFY(QAccessible::queryAccessibleInterface(button.popover())->valueInterface());
+        button.hidePopup();
+    }
+
+    void deletingButtonClosesPopover() {
+        QWidget window;
+        window.resize(400, 300);
+        auto* button = new KaMoreInfoButton(QStringLiteral("Bye"), &window);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        button->showPopup();
+        QPointer<KaPopover> popover = button->popover();
+        QVERIFY(popover);
+        delete button;
+        QTRY_VERIFY(!popover || !popover->isVisible());
+    }
+
+    // KaToolTip.
+    void styleSheetText_data() {
+        QTest::addColumn<BzThemeUtils::AppThemeType>("type");
+        QTest::newRow("light") << BzThemeUtils::Light;
+        QTest::newRow("dark") << BzThemeUtils::Dark;
+    }
+
+    // The text is the template resolved for the theme type and names the
+    // tooltip's three colours.
+    void styleSheetText() {
+        QFETCH(BzThemeUtils::AppThemeType, type);
+        const QString text = KaToolTip::styleSheetText(type);
+        QCOMPARE(text, BzThemeUtils::resolveTemplate(KaToolTip::styleSheetTemplate(), type));
+        for (const char* set : {"label-primary-text", "popover-primary-background", "modal-primary-border"})
+            QVERIFY2(text.contains(css(set, type)), set);
+        if (type == BzThemeUtils::Light)
+            QVERIFY(text != KaToolTip::styleSheetText(BzThemeUtils::Dark));
+    }
+
+    void showAndHide() {
+        QWidget anchor;
+        QVERIFY(!KaToolTip::isVisible());
+        QCOMPARE(KaToolTip::toolTipWidget(), nullptr);
+        KaToolTip::showText(screenArea().center(), QStringLiteral("Tip text"), &anchor);
+        QVERIFY(KaToolTip::isVisible());
+        QCOMPARE(KaToolTip::text(), QStringLiteral("Tip text"));
+        QWidget* tip = KaToolTip::toolTipWidget();
+        QVERIFY(tip);
+        QCOMPARE(tip->styleSheet(), KaToolTip::styleSheetText());
+        KaToolTip::hideText();
+        QTRY_VERIFY(!KaToolTip::isVisible());
+        // An empty text hides as well.
+        KaToolTip::showText(screenArea().center(), QStringLiteral("again"), &anchor);
+        QVERIFY(KaToolTip::isVisible());
+        KaToolTip::showText(screenArea().center(), QString(), &anchor);
+        QTRY_VERIFY(!KaToolTip::isVisible());
+    }
+
+    void paintsThemeColours() {
+        KaToolTip::showText(screenArea().center(), QStringLiteral("Tip text that is long enough"), nullptr);
+        QWidget* tip = KaToolTip::toolTipWidget();
+        QVERIFY(tip);
+        const QImage image = tip->grab().toImage();
+        QCOMPARE(image.pixelColor(0, image.height() / 2),
+                 BzThemeUtils::getColorSet("modal-primary-border").normal());
+        QCOMPARE(image.pixelColor(2, 2), BzThemeUtils::getColorSet("popover-primary-background").normal());
+        // Somewhere the text shows in its own colour.
+        const QColor text = BzThemeUtils::getColorSet("label-primary-text").normal();
+        bool found = false;
+        for (int y = 0; y < image.height() && !found; ++y)
+            for (int x = 0; x < image.width() && !found; ++x)
+                found = image.pixelColor(x, y) == text;
+        QVERIFY(found);
+    }
+
+    void followsAnchorThemeType() {
+        QWidget host;
+        host.setProperty("themeType", QStringLiteral("dark"));
+        QWidget anchor(&host);
+        KaToolTip::showText(screenArea().center(), QStringLiteral("Tip"), &anchor);
+        QWidget* tip = KaToolTip::toolTipWidget();
+        QVERIFY(tip);
+        QCOMPARE(tip->styleSheet(), KaToolTip::styleSheetText(BzThemeUtils::Dark));
+    }
+
+    void themeSwitchRestyles() {
+        QWidget anchor;
+        KaToolTip::showText(screenArea().center(), QStringLiteral("Tip"), &anchor, QRect(), 60000);
+        QWidget* tip = KaToolTip::toolTipWidget();
+        QVERIFY(tip);
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"), BzThemeManager::DataOnly);
+        KarvexUtils::updateSolvaneThemes();
+        QTRY_COMPARE(tip->styleSheet(), KaToolTip::styleSheetText(BzThemeUtils::Dark));
+        QVERIFY(KaToolTip::isVisible());
+    }
+
+    void installOn() {
+        QPushButton button(QStringLiteral("b"));
+        button.setToolTip(QStringLiteral("From the widget"));
+        KaToolTip::installOn(&button);
+        QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), screenArea().center());
+        QApplication::sendEvent(&button, &help);
+        QVERIFY(KaToolTip::isVisible());
+        QCOMPARE(KaToolTip::text(), QStringLiteral("From the widget"));
+        QCOMPARE(KaToolTip::toolTipWidget()->styleSheet(), KaToolTip::styleSheetText());
+
+        KaToolTip::hideText();
+        QTRY_VERIFY(!KaToolTip::isVisible());
+        KaToolTip::removeFrom(&button);
+        QApplication::sendEvent(&button, &help);
+        // Qt's own tooltip, unthemed.
+        QVERIFY(KaToolTip::isVisible());
+        QVERIFY(KaToolTip::toolTipWidget()->styleSheet().isEmpty());
+    }
+
+    // The margins and opposite sides are tables; what they place is checked
+    // below, by the show point and the bubble's pixels.
+    // KaPopupUtils.
+    void showPointInTheOpen_data() {
+        QTest::addColumn<Side>("side");
+        QTest::addColumn<int>("offset");
+        for (Side side : {KaPopupEnum::Top, KaPopupEnum::Left, KaPopupEnum::Right, KaPopupEnum::Bottom}) {
+            const char* name = QMetaEnum::fromType<Side>().valueToKey(side);
+            for (int offset : {0, 25, 50, 100})
+                QTest::addRow("%s, %d%%", name, offset) << side << offset;
+        }
+    }
+    void showPointInTheOpen() {
+        QFETCH(Side, side);
+        QFETCH(int, offset);
+        const QRect area = screenArea();
+        QWidget anchor;
+        anchor.setGeometry(QRect(area.center() - QPoint(20, 10), QSize(40, 20)));
+        const QSize size(120, 60);
+
+        Side shown = KaPopupEnum::None;
+        const QPoint p =
+            calculateShowPoint(KaControlHandle(&anchor), side, size.width(), size.height(), offset, &shown);
+        QCOMPARE(shown, side);
+        const QRect r = anchor.geometry();
+        checkTipGap(side, p, size, r);
+        // The tip sits `offset` percent along its edge, on the anchor's centre line.
+        if (side == KaPopupEnum::Top || side == KaPopupEnum::Bottom)
+            QCOMPARE(p.x() + qRound(size.width() * offset / 100.0), r.center().x());
+        else
+            QCOMPARE(p.y() + qRound(size.height() * offset / 100.0), r.center().y());
+        QCOMPARE(anchorPoint(KaControlHandle(&anchor), side),
+                 side == KaPopupEnum::Top      ? QPoint(r.center().x(), r.top())
+                 : side == KaPopupEnum::Bottom ? QPoint(r.center().x(), r.bottom())
+                 : side == KaPopupEnum::Left   ? QPoint(r.left(), r.center().y())
+                                               : QPoint(r.right(), r.center().y()));
+    }
+
+    void showPointNearEdges_data() {
+        QTest::addColumn<Side>("side");
+        QTest::addColumn<QRect>("anchor"); // relative to the screen's top-left
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<Side>("shown");
+        const QRect area = screenArea();
+        const int w = area.width();
+        const int h = area.height();
+        QTest::newRow("below, at the bottom edge: above")
+            << KaPopupEnum::Bottom << QRect(w / 2, h - 30, 40, 20) << QSize(200, 120) << KaPopupEnum::Top;
+        QTest::newRow("above, at the top edge: below")
+            << KaPopupEnum::Top << QRect(w / 2, 10, 40, 20) << QSize(200, 120) << KaPopupEnum::Bottom;
+        QTest::newRow("right, at the right edge: left")
+            << KaPopupEnum::Right << QRect(w - 50, h / 2, 40, 20) << QSize(200, 120) << KaPopupEnum::Left;
+        QTest::newRow("left, at the left edge: right")
+            << KaPopupEnum::Left << QRect(10, h / 2, 40, 20) << QSize(200, 120) << KaPopupEnum::Right;
+        QTest::newRow("below, at the right edge: slides left")
+            << KaPopupEnum::Bottom << QRect(w - 30, h / 2, 20, 20) << QSize(200, 120) << KaPopupEnum::Bottom;
+        QTest::newRow("below, at the left edge: slides right")
+            << KaPopupEnum::Bottom << QRect(0, h / 2, 20, 20) << QSize(200, 120) << KaPopupEnum::Bottom;
+        QTest::newRow("left, at the bottom edge: slides up")
+            << KaPopupEnum::Left << QRect(w / 2, h - 20, 40, 20) << QSize(200, 120) << KaPopupEnum::Left;
+        QTest::newRow("above, fits nowhere: the roomier side")
+            << KaPopupEnum::Top << QRect(w / 2, h / 2 - 40, 40, 20) << QSize(200, h - 100)
+            << KaPopupEnum::Bottom;
+        QTest::newRow("below, fits nowhere, roomier already")
+            << KaPopupEnum::Bottom << QRect(w / 2, h / 2 - 40, 40, 20) << QSize(200, h - 100)
+            << KaPopupEnum::Bottom;
+        QTest::newRow("larger than the screen") << KaPopupEnum::Right << QRect(w / 2 - 60, h / 2, 40, 20)
+                                                << QSize(w + 50, h + 50) << KaPopupEnum::Right;
+    }
+    void showPointNearEdges() {
+        QFETCH(Side, side);
+        QFETCH(QRect, anchor);
+        QFETCH(QSize, size);
+        QFETCH(Side, shown);
+        const QRect area = screenArea();
+        QWidget widget;
+        widget.setGeometry(anchor.translated(area.topLeft()));
+        const QRect r = widget.geometry();
+
+        Side used = KaPopupEnum::None;
+        const QPoint p =
+            calculateShowPoint(KaControlHandle(&widget), side, size.width(), size.height(), 50, &used);
+        QCOMPARE(used, shown);
+        const QRect popup(p, size);
+        if (size.width() <= area.width() && size.height() <= area.height()) {
+            QVERIFY(area.contains(popup));
+        } else {
+            QCOMPARE(p, area.topLeft());
+            return;
+        }
+        // Never over the anchor on the side it opened on.
+        const bool fitsSomewhere = size.height() < area.height() - 100;
+        if (fitsSomewhere)
+            checkTipGap(used, p, size, r);
+        if (used == KaPopupEnum::Bottom)
+            QVERIFY(popup.top() > r.bottom() - ShadowMargin || !fitsSomewhere);
+        // Slid along the edge only as far as the screen demands.
+        if (used == KaPopupEnum::Top || used == KaPopupEnum::Bottom) {
+            if (r.right() > area.right() - size.width() / 2)
+                QCOMPARE(popup.right(), area.right());
+            else if (r.left() < area.left() + size.width() / 2)
+                QCOMPARE(popup.left(), area.left());
+        } else if (r.bottom() > area.bottom() - size.height() / 2) {
+            QCOMPARE(popup.bottom(), area.bottom());
+        }
+    }
+
+    void showPointNoneIsBottom() {
+        const KaControlHandle handle(screenArea().center());
+        Side shown = KaPopupEnum::Top;
+        const QPoint none = calculateShowPoint(handle, KaPopupEnum::None, 100, 50, 50, &shown);
+        QCOMPARE(shown, KaPopupEnum::Bottom);
+        QCOMPARE(none, calculateShowPoint(handle, KaPopupEnum::Bottom, 100, 50, 50));
+    }
+
+    void showPointWithoutAnchor() {
+        auto* widget = new QWidget;
+        widget->setGeometry(100, 100, 40, 20);
+        const KaControlHandle handle(widget);
+        delete widget;
+        QTest::ignoreMessage(QtWarningMsg, "KaPopupUtils: cannot place a popup without a live anchor");
+        Side shown = KaPopupEnum::None;
+        QCOMPARE(calculateShowPoint(handle, KaPopupEnum::Left, 100, 50, 50, &shown), QPoint());
+        QCOMPARE(shown, KaPopupEnum::Left);
+        QCOMPARE(anchorPoint(handle, KaPopupEnum::Left), QPoint());
+    }
+
+    void showPointClampsOffset() {
+        const KaControlHandle handle(screenArea().center());
+        QTest::ignoreMessage(QtWarningMsg, "KaPopupUtils: arrow offset 150% out of range, clamped");
+        QCOMPARE(calculateShowPoint(handle, KaPopupEnum::Bottom, 100, 50, 150),
+                 calculateShowPoint(handle, KaPopupEnum::Bottom, 100, 50, 100));
+        QTest::ignoreMessage(QtWarningMsg, "KaPopupUtils: arrow offset -1% out of range, clamped");
+        QCOMPARE(calculateShowPoint(handle, KaPopupEnum::Bottom, 100, 50, -1),
+                 calculateShowPoint(handle, KaPopupEnum::Bottom, 100, 50, 0));
+    }
+
+    void colorsFollowTheme() {
+        const PopupColors light = popupColors();
+        QCOMPARE(light.background, BzThemeUtils::getColorSet("popover-primary-background").normal());
+        QCOMPARE(light.border, BzThemeUtils::getColorSet("modal-primary-border").normal());
+        QVERIFY(light.shadow.alpha() > 0);
+        QVERIFY(light.shadow.alpha() <
+                BzThemeUtils::getColorSet("overlayFade-meetings-background").normal().alpha());
+        QCOMPARE(popupColors(BzThemeUtils::Dark).background,
+                 BzThemeUtils::getColorSet("popover-primary-background", BzThemeUtils::Dark).normal());
+        // The cache must not outlive a theme switch.
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
+        QCOMPARE(popupColors().background, popupColors(BzThemeUtils::Dark).background);
+        QVERIFY(popupColors().background != light.background);
+        QCOMPARE(popupColors(BzThemeUtils::Alternate).background, light.background);
+    }
+
+    void bubblePixels_data() {
+        QTest::addColumn<Side>("side");
+        QTest::addColumn<bool>("arrow");
+        QTest::addColumn<qreal>("dpr");
+        for (qreal dpr : {1.0, 2.0}) {
+            for (Side side : {KaPopupEnum::Top, KaPopupEnum::Left, KaPopupEnum::Right, KaPopupEnum::Bottom}) {
+                const char* name = QMetaEnum::fromType<Side>().valueToKey(side);
+                QTest::addRow("%s, arrow, dpr %g", name, dpr) << side << true << dpr;
+                QTest::addRow("%s, no arrow, dpr %g", name, dpr) << side << false << dpr;
+            }
+        }
+    }
+    void bubblePixels() {
+        QFETCH(Side, side);
+        QFETCH(bool, arrow);
+        QFETCH(qreal, dpr);
+        Bubble bubble;
+        bubble.size = QSize(200, 120);
+        bubble.alignment = side;
+        bubble.arrow = arrow;
+        bubble.colors = popupColors();
+        const QImage image = render(bubble, dpr);
+        const QRect body = bodyRect(bubble.size, side, arrow);
+
+        QCOMPARE(logicalPixel(image, body.center().x(), body.center().y()), bubble.colors.background);
+        // Outside the bubble and its shadow nothing is painted.
+        QCOMPARE(alphaAt(image, 0, 0), 0);
+        QCOMPARE(alphaAt(image, 199, 0), 0);
+        QCOMPARE(alphaAt(image, 0, 119), 0);
+
+        // A crisp one-pixel border on a side without arrow, shadow beyond it.
+        const bool arrowOnLeft = arrow && side == KaPopupEnum::Right;
+        const int x = arrowOnLeft ? body.right() : body.left();
+        const int outside = arrowOnLeft ? x + 1 : x - 1;
+        QCOMPARE(logicalPixel(image, x, body.center().y()), bubble.colors.border);
+        QCOMPARE(logicalPixel(image, x + (arrowOnLeft ? -1 : 1), body.center().y()),
+                 bubble.colors.background);
+        QVERIFY(alphaAt(image, outside, body.center().y()) < 128);
+
+        // Just inside the tip the arrow is solid; the same distance from the
+        // body further along the edge is (almost) empty.
+        const auto tipAt = [side](int in) { // `in` pixels in from the tip's edge
+            return side == KaPopupEnum::Top     ? QPoint(100, 119 - in)
+                   : side == KaPopupEnum::Left  ? QPoint(199 - in, 60)
+                   : side == KaPopupEnum::Right ? QPoint(in, 60)
+                                                : QPoint(100, in);
+        };
+        const QPoint tip = tipAt(ShadowMargin + 3);
+        const bool vertical = side == KaPopupEnum::Top || side == KaPopupEnum::Bottom;
+        const QPoint aside = vertical ? QPoint(body.left() + 20, tip.y()) : QPoint(tip.x(), body.top() + 15);
+        if (arrow) {
+            QCOMPARE(alphaAt(image, tip.x(), tip.y()), 255);
+            QVERIFY(alphaAt(image, aside.x(), aside.y()) < 64);
+        } else {
+            // Without an arrow the body's edge comes right up to where the tip
+            // would be, so both open at the same distance from the anchor.
+            const QPoint edge = tipAt(ShadowMargin);
+            QCOMPARE(logicalPixel(image, edge.x(), edge.y()), bubble.colors.border);
+        }
+    }
+
+    void arrowFollowsAnchorPoint() {
+        QWidget window;
+        window.setGeometry(100, 100, 200, 120);
+        const int row = ShadowMargin + 3;
+        // Alpha along the row just inside the tip.
+        const auto draw = [&window](const QPoint& anchor, int offset) {
+            QImage image(200, 120, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::transparent);
+            QPainter painter(&image);
+            drawPopup(&window, &painter, KaPopupEnum::Bottom, anchor, offset, QPixmap(), true, window.size());
+            return [image](int x) {
+                return qAlpha(image.pixel(x, row));
+            };
+        };
+        // The anchor is 50 px into the window: the tip goes there, not to the
+        // 50% the offset asks for.
+        const auto anchored = draw(QPoint(150, 90), 50);
+        QCOMPARE(anchored(50), 255);
+        QVERIFY(anchored(100) < 64);
+        // Without an anchor point the offset decides.
+        const auto byOffset = draw(QPoint(), 75);
+        QCOMPARE(byOffset(150), 255);
+        QVERIFY(byOffset(50) < 64);
+        // An anchor far outside keeps the arrow on the body's straight edge.
+        QCOMPARE(draw(QPoint(-400, 90), 50)(ShadowMargin + BodyRadius + ArrowBase / 2), 255);
+    }
+
+    void smallBodyArrow() {
+        // A body narrower than the arrow: without a fixed size the arrow shrinks
+        // to the straight part of the edge, with one it keeps its full base.
+        Bubble bubble;
+        bubble.size = QSize(2 * ShadowMargin + 2 * BodyRadius + 6, 80);
+        bubble.alignment = KaPopupEnum::Bottom;
+        bubble.colors = popupColors();
+        const QImage small = render(bubble, 1);
+        bubble.fixedArrowSize = true;
+        const QImage fixed = render(bubble, 1);
+        const int row = ShadowMargin + 2;
+        auto opaqueIn = [](const QImage& image) {
+            int count = 0;
+            for (int x = 0; x < image.width(); ++x)
+                count += qAlpha(image.pixel(x, row)) > 200;
+            return count;
+        };
+        QVERIFY(opaqueIn(small) < opaqueIn(fixed));
+        QVERIFY(opaqueIn(fixed) >= ArrowBase / 4);
+    }
+
+    void coverImage() {
+        const QColor coverColor = BzThemeUtils::getColorSet("label-error-text").normal();
+        QPixmap cover(100, 50);
+        cover.fill(coverColor);
+        Bubble bubble;
+        bubble.size = QSize(200, 200);
+        bubble.alignment = KaPopupEnum::Top;
+        bubble.cover = cover;
+        bubble.colors = popupColors();
+        const QRect body = bodyRect(bubble.size, KaPopupEnum::Top, true);
+        const int coverH = coverHeight(cover, body.width());
+        QCOMPARE(coverH, body.width() / 2);
+        for (qreal dpr : {1.0, 2.0}) {
+            const QImage image = render(bubble, dpr);
+            QCOMPARE(logicalPixel(image, body.center().x(), body.top() + 5), coverColor);
+            QCOMPARE(logicalPixel(image, body.center().x(), body.top() + coverH + 5),
+                     bubble.colors.background);
+            // The border is drawn over the cover.
+            QCOMPARE(logicalPixel(image, body.left(), body.top() + coverH / 2), bubble.colors.border);
+            // The rounded corner clips it.
+            QVERIFY(alphaAt(image, body.left(), body.top()) < 128);
+        }
+        QCOMPARE(coverHeight(QPixmap(), 100), 0);
+    }
+
+    // KaControlHandle, what the popups are placed against.
+    void empty() {
+        const KaControlHandle handle;
+        QCOMPARE(handle.kind(), KaControlHandle::Empty);
+        QVERIFY(!handle.isValid());
+        QVERIFY(handle.globalRect().isNull());
+        QCOMPARE(handle.screen(), nullptr);
+    }
+
+    void widget() {
+        QWidget window;
+        window.setGeometry(120, 80, 300, 200);
+        QWidget child(&window);
+        child.setGeometry(10, 20, 40, 30);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        const KaControlHandle handle(&child);
+        QCOMPARE(handle.kind(), KaControlHandle::Widget);
+        QVERIFY(handle.isValid());
+        QCOMPARE(handle.globalRect(), QRect(child.mapToGlobal(QPoint(0, 0)), QSize(40, 30)));
+        QCOMPARE(handle.screen(), QGuiApplication::primaryScreen());
+        QCOMPARE(handle.widget(), &child);
+        QCOMPARE(handle.button(), nullptr);
+        QCOMPARE(handle.quickItem(), nullptr);
+    }
+
+    void point() {
+        const KaControlHandle handle(QPoint(300, 200));
+        QCOMPARE(handle.kind(), KaControlHandle::Point);
+        QVERIFY(handle.isValid());
+        QCOMPARE(handle.globalRect(), QRect(300, 200, 1, 1));
+        QCOMPARE(handle.screen(), QGuiApplication::primaryScreen());
+        // Off every screen: still a screen to keep the popup on.
+        QCOMPARE(KaControlHandle(QPoint(-5000, -5000)).screen(), QGuiApplication::primaryScreen());
+    }
+
+    void quickItem() {
+        QQuickWindow window;
+        window.setGeometry(100, 50, 300, 200);
+        QQuickItem item(window.contentItem());
+        item.setPosition(QPointF(10, 20));
+        item.setSize(QSizeF(60, 25));
+
+        const KaControlHandle handle(&item);
+        QCOMPARE(handle.kind(), KaControlHandle::QuickItem);
+        QCOMPARE(handle.quickItem(), &item);
+        QCOMPARE(handle.widget(), nullptr);
+        QCOMPARE(handle.globalRect(), QRect(110, 70, 60, 25));
+        QVERIFY(handle.screen());
+    }
+
+    void anchorDeleted_data() {
+        QTest::addColumn<int>("kind");
+        QTest::newRow("widget") << int(KaControlHandle::Widget);
+        QTest::newRow("button") << int(KaControlHandle::Button);
+        QTest::newRow("quick item") << int(KaControlHandle::QuickItem);
+    }
+
+    void anchorDeleted() {
+        QFETCH(int, kind);
+        const KaControlHandle handle = kind == KaControlHandle::Widget   ? deadHandle<QWidget>()
+                                       : kind == KaControlHandle::Button ? deadHandle<QPushButton>()
+                                                                         : deadHandle<QQuickItem>();
+        QCOMPARE(int(handle.kind()), kind);
+        QVERIFY(!handle.isValid());
+        QVERIFY(handle.globalRect().isNull());
+        QCOMPARE(handle.screen(), nullptr);
+        QCOMPARE(handle.widget(), nullptr);
+        QCOMPARE(handle.button(), nullptr);
+        QCOMPARE(handle.quickItem(), nullptr);
+        // A copy taken after the deletion knows too.
+        const KaControlHandle copy = handle;
+        QVERIFY(!copy.isValid());
+    }
+
 private:
     std::unique_ptr<AccessibilityRecorder::RecordingScope> m_recording;
+    std::unique_ptr<Fixture> f;
 };
 
 QTEST_MAIN(tst_KaPopover)
