@@ -1,4 +1,5 @@
 #include "focusringtest.h"
+#include "testhelpers.h"
 
 #include <QApplication>
 #include <QCalendarWidget>
@@ -119,10 +120,6 @@ CustomFocusOverlay* overlayIn(const QWidget* root) {
     return overlays.isEmpty() ? nullptr : overlays.constLast();
 }
 
-CustomFocusOverlay* visibleOverlay(const QWidget* root) {
-    return FocusRingTest::visibleRing(*root);
-}
-
 // Focuses `target` as the keyboard does and asks for its ring.
 void ringOn(const QStyle& style, QWidget* target) {
     target->setFocus(Qt::TabFocusReason);
@@ -132,11 +129,6 @@ void ringOn(const QStyle& style, QWidget* target) {
 
 QRect grown(const QRect& rect, int margin) {
     return rect.marginsAdded(QMargins(margin, margin, margin, margin));
-}
-
-// Equal colour channels, give or take the rounding of a translucent pixel.
-bool sameHue(QRgb a, QRgb b) {
-    return qAbs(qRed(a) - qRed(b)) <= 2 && qAbs(qGreen(a) - qGreen(b)) <= 2 && qAbs(qBlue(a) - qBlue(b)) <= 2;
 }
 
 bool painted(const QImage& image, int x, int y) {
@@ -298,7 +290,7 @@ private Q_SLOTS:
         showWindow();
         ringOn(style, target);
 
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
         CustomFocusOverlay* overlay = overlayIn(m_window.get());
         QCOMPARE(overlay->parentWidget(), m_window.get());
         QCOMPARE(overlay->geometry(),
@@ -315,7 +307,7 @@ private Q_SLOTS:
         // Without "hasCustomRect" the option's rectangle is ignored.
         const QRect part(10, 20, 60, 24);
         requestRing(style, target, QStyle::State_KeyboardFocusChange, part);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
         CustomFocusOverlay* overlay = overlayIn(m_window.get());
         QCOMPARE(overlay->geometry(), grown(target->geometry(), 5));
 
@@ -372,7 +364,7 @@ private Q_SLOTS:
         // Across the left edge at mid height: halo, solid outer line, inner line.
         const int y = 20;
         QCOMPARE(qAlpha(image.pixel(0, y)), haloAlpha);
-        QVERIFY(sameHue(image.pixel(0, y), outer.rgb()));
+        QVERIFY(BzTest::near(image.pixelColor(0, y), outer)); // give or take rounding
         QCOMPARE(image.pixel(1, y), outer.rgba());
         QCOMPARE(image.pixel(2, y), outer.rgba());
         QCOMPARE(image.pixel(3, y), inner.rgba());
@@ -439,7 +431,7 @@ private Q_SLOTS:
         QVERIFY(m_window->findChildren<CustomFocusOverlay*>().isEmpty());
         // And the style still works.
         ringOn(style, keep);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
         QCOMPARE(overlayIn(m_window.get())->geometry(), grown(keep->geometry(), 5));
     }
 
@@ -449,7 +441,7 @@ private Q_SLOTS:
         auto* other = new Target(m_window.get(), QRect(100, 10, 60, 30));
         showWindow();
         ringOn(*style, target);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
 
         // A focus change and a ring request still queued when the style goes.
         other->setFocus(Qt::TabFocusReason);
@@ -477,7 +469,7 @@ private Q_SLOTS:
         QCOMPARE(spy.count(), 0);
 
         ringOn(style, other);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
     }
 
     void focusMoveHidesRing() {
@@ -486,7 +478,7 @@ private Q_SLOTS:
         auto* second = new Target(m_window.get(), QRect(100, 10, 60, 30));
         showWindow();
         ringOn(style, first);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
         QPointer<CustomFocusOverlay> old = overlayIn(m_window.get());
 
         second->setFocus(Qt::TabFocusReason);
@@ -516,31 +508,22 @@ private Q_SLOTS:
         drainQueued();
         QTest::keyClick(m_window.get(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), second);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
         QCOMPARE(overlayIn(m_window.get())->geometry(), grown(second->geometry(), 5));
     }
 
     // In a list view; tree views take the same path (and collapsing is
     // collapsedTreeItemHidesRing).
     void itemScrolledOutHidesRing() {
-        QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
         QStandardItemModel model;
         for (int i = 0; i < 200; ++i)
             model.appendRow(new QStandardItem(QStringLiteral("Item %1").arg(i)));
         auto* view = new QListView(m_window.get());
-        view->setModel(&model);
-        view->setItemDelegate(new ViewStyleObjectDelegate(view));
-        view->setGeometry(20, 20, 200, 150);
-        view->setProperty("hasCustomRect", true);
         view->setProperty("focusMargin", 0);
-        showWindow();
-        view->setCurrentIndex(model.index(2, 0));
-        view->setFocus(Qt::TabFocusReason);
-
+        focusItem(view, &model, model.index(2, 0));
         // Inside the view, around the current item.
-        QTRY_VERIFY(view->findChild<CustomFocusOverlay*>() &&
-                    view->findChild<CustomFocusOverlay*>()->isVisible());
-        CustomFocusOverlay* overlay = view->findChild<CustomFocusOverlay*>();
+        QTRY_VERIFY(FocusRingTest::visibleRing(*view));
+        CustomFocusOverlay* overlay = overlayIn(view);
         const QRect itemInView = view->visualRect(model.index(2, 0)).translated(view->viewport()->pos());
         QTRY_COMPARE(overlay->geometry().topLeft(), itemInView.topLeft());
         QCOMPARE(overlay->height(), itemInView.height());
@@ -561,26 +544,17 @@ private Q_SLOTS:
     }
 
     void collapsedTreeItemHidesRing() {
-        QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
         QStandardItemModel model;
         auto* parentItem = new QStandardItem(QStringLiteral("Parent"));
         for (int i = 0; i < 3; ++i)
             parentItem->appendRow(new QStandardItem(QStringLiteral("Child %1").arg(i)));
         model.appendRow(parentItem);
         auto* tree = new QTreeView(m_window.get());
-        tree->setModel(&model);
-        tree->setItemDelegate(new ViewStyleObjectDelegate(tree));
         tree->setHeaderHidden(true);
-        tree->setGeometry(20, 20, 200, 150);
-        tree->setProperty("hasCustomRect", true);
-        tree->expandAll();
-        showWindow();
         const QModelIndex child = model.index(1, 0, model.index(0, 0));
-        tree->setCurrentIndex(child);
-        tree->setFocus(Qt::TabFocusReason);
-        QTRY_VERIFY(tree->findChild<CustomFocusOverlay*>() &&
-                    tree->findChild<CustomFocusOverlay*>()->isVisible());
-        CustomFocusOverlay* overlay = tree->findChild<CustomFocusOverlay*>();
+        focusItem(tree, &model, child);
+        QTRY_VERIFY(FocusRingTest::visibleRing(*tree));
+        CustomFocusOverlay* overlay = overlayIn(tree);
 
         // Collapsing hides the row without moving the current index.
         tree->collapse(model.index(0, 0));
@@ -611,7 +585,7 @@ private Q_SLOTS:
         button->setFocus(Qt::TabFocusReason);
 
         // The ring lives on the viewport, clipped like the content.
-        QTRY_VERIFY(visibleOverlay(area->viewport()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*area->viewport()));
         CustomFocusOverlay* overlay = overlayIn(area->viewport());
         QCOMPARE(overlay->parentWidget(), area->viewport());
         const auto inViewport = [&] {
@@ -639,6 +613,21 @@ private:
         m_window->show();
         QApplication::setActiveWindow(m_window.get());
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    // The application's focus style, `view` showing `model` with the ring
+    // around its items, `item` current and the view focused by the keyboard.
+    void focusItem(QAbstractItemView* view, QAbstractItemModel* model, const QModelIndex& item) {
+        QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
+        view->setModel(model);
+        view->setItemDelegate(new ViewStyleObjectDelegate(view));
+        view->setGeometry(20, 20, 200, 150);
+        view->setProperty("hasCustomRect", true);
+        if (auto* tree = qobject_cast<QTreeView*>(view))
+            tree->expandAll();
+        showWindow();
+        view->setCurrentIndex(item);
+        view->setFocus(Qt::TabFocusReason);
     }
 
     // Shows the window and focuses `target` as the keyboard does.
