@@ -1,15 +1,12 @@
 #include "buttontestutils.h"
-#include "customfocusoverlay.h"
+#include "focusringtest.h"
 #include "kachips.h"
-#include "kacolortokenutils.h"
-#include "kafocusstyle.h"
 #include "testhelpers.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QStyleFactory>
 #include <QTest>
 
 using namespace ButtonTest;
@@ -130,10 +127,7 @@ private Q_SLOTS:
 
     // The face follows a theme switch; keyboard focus shows the ring.
     void themeAndFocusRing() {
-        QApplication::setStyle(
-            new KaFocusStyle(KaColorTokenUtils::tokenToStdString(Karvox::global_focus_outline),
-                             KaColorTokenUtils::tokenToStdString(Karvox::textinput_background), false,
-                             QStyleFactory::create(QStringLiteral("Fusion"))));
+        FocusRingTest::installStyle();
         qApp->setProperty("isKeyboardFocus", true);
         QWidget window;
         KaChips chip(&window);
@@ -144,8 +138,7 @@ private Q_SLOTS:
         QVERIFY(BzTest::near(pixelAt(&chip, faceSpot(chip)), colorOf("button-secondary-background")));
 
         chip.setFocus(Qt::TabFocusReason);
-        QTRY_VERIFY(!window.findChildren<CustomFocusOverlay*>().isEmpty() &&
-                    window.findChildren<CustomFocusOverlay*>().constLast()->isVisible());
+        QTRY_VERIFY(FocusRingTest::visibleRing(window));
 
         const QColor light = colorOf("button-secondary-background");
         switchTheme("dark");

@@ -46,6 +46,12 @@ void fill(KaMenu& menu, int count) {
         menu.addMenuItem(entry(QStringLiteral("Entry %1").arg(i + 1)));
 }
 
+// Pops `menu` up at `at` and waits until it shows.
+[[nodiscard]] bool opened(KaMenu& menu, const QPoint& at = QPoint(100, 100)) {
+    menu.popupAt(at);
+    return QTest::qWaitFor([&menu] { return menu.isVisible(); });
+}
+
 QColor pixel(KaMenu& menu, const QPoint& at) {
     return BzTest::paint(menu).pixelColor(at);
 }
@@ -184,8 +190,7 @@ private Q_SLOTS:
         QAction* separator = menu.addSeparator();
         menu.addMenuItem(entry(QStringLiteral("Two")));
         menu.enableSeparatorSecondary(secondary);
-        menu.popupAt(QPoint(100, 100));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu));
         const QRect line = menu.actionGeometry(separator);
         const QColor painted = pixel(menu, QPoint(line.center().x(), line.top() + line.height() / 2));
         const QColor background = KaPopupUtils::popupColors().background;
@@ -199,8 +204,7 @@ private Q_SLOTS:
         banner.text = QStringLiteral("Pin chats you use often");
         menu.addDiscoverabilityBanner(banner);
         menu.addMenuItem(entry(QStringLiteral("Pin")));
-        menu.popupAt(QPoint(100, 100));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu));
         const QList<QAction*> actions = menu.actions();
         QCOMPARE(actions.size(), 3);
         QVERIFY(actions.at(1)->isSeparator());
@@ -253,8 +257,7 @@ private Q_SLOTS:
     void focusRingOnKeyboardEntry() {
         KaMenu menu;
         fill(menu, 3);
-        menu.popupAt(QPoint(100, 100));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu));
         const QColor outer = BzTest::set("global-focus-outline").normal();
         QAction* first = menu.actions().at(0);
         const QRect geometry = qobject_cast<QWidgetAction*>(first)->defaultWidget()->geometry();
@@ -272,8 +275,7 @@ private Q_SLOTS:
     void tabStaysAndCancelReports() {
         KaMenu menu;
         fill(menu, 3);
-        menu.popupAt(QPoint(100, 100));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu));
         menu.setActiveAction(menu.actions().at(1));
         QTest::keyClick(&menu, Qt::Key_Tab);
         QCOMPARE(menu.activeAction(), menu.actions().at(1));
@@ -287,8 +289,7 @@ private Q_SLOTS:
     void followsThemeSwitch() {
         KaMenu menu;
         fill(menu, 2);
-        menu.popupAt(QPoint(100, 100));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu));
         // Inside the body below the last entry (no arrow: 15 px of room).
         const QPoint inBubble(menu.width() / 2, menu.height() - menu.contentsMargins().bottom() + 3);
         const QColor light = KaPopupUtils::popupColors(BzThemeUtils::Light).background;
@@ -309,8 +310,7 @@ private Q_SLOTS:
         data.popupText = QStringLiteral("Sends a copy");
         QAction* withPopup = menu.addMenuItemWithPopup(data);
         QAction* plain = menu.addMenuItem(entry(QStringLiteral("Reply")));
-        menu.popupAt(QPoint(100, 100));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu));
         QCOMPARE(qobject_cast<QWidgetAction*>(withPopup)->defaultWidget()->objectName(),
                  QStringLiteral("MenuItemWithPopup"));
         menu.setActiveAction(withPopup);
@@ -347,8 +347,7 @@ private Q_SLOTS:
         KaMenu menu;
         menu.addSeparator(QStringLiteral("Recent"));
         fill(menu, 2);
-        menu.popupAt(QPoint(300, 100));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu, QPoint(300, 100)));
         QCOMPARE(menu.layoutDirection(), Qt::RightToLeft);
         // The header's text starts at the right.
         const QRect header = menu.actionGeometry(menu.actions().first());
@@ -439,8 +438,7 @@ private Q_SLOTS:
         delete sub;
         QVERIFY(!opener->menu());
         menu.setStyle(KaMenuEnum::Circular);
-        menu.popupAt(QPoint(100, 100));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu));
         menu.setActiveAction(opener);
         QTest::keyClick(&menu, Qt::Key_Right);
         BzTest::paint(menu);

@@ -12,8 +12,8 @@
 class tst_KaMenuAction : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    // The entry shows the action's check state however it changes.
-    void checkStateReachesEntry() {
+    // The entry shows the action's check and enabled states however they change.
+    void stateReachesEntry() {
         KaMenuAction action;
         action.setCheckable(true);
         auto* item = new KaMenuItem(QStringLiteral("Bold"));
@@ -26,12 +26,6 @@ private Q_SLOTS:
         QVERIFY(iface->state().checked);
         action.setChecked(false);
         QVERIFY(!iface->state().checked);
-    }
-
-    void enablingReachesEntry() {
-        KaMenuAction action;
-        auto* item = new KaMenuItem(QStringLiteral("Delete"));
-        action.setDefaultWidget(item);
         action.setEnabled(false);
         QVERIFY(item->isDisabledState());
         QVERIFY(!item->isEnabled());
