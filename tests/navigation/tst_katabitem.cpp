@@ -39,7 +39,8 @@ private Q_SLOTS:
     }
 
     // The face in the style's set, and the indicator bar along the bottom
-    // of the selected tab only.
+    // of the selected tab only. The selected face follows a theme switch
+    // (the unselected one is transparent).
     void look() {
         QFETCH(int, style);
         QFETCH(QString, face);
@@ -48,21 +49,19 @@ private Q_SLOTS:
         tab.setStyle(KaTabEnum::Style(style));
         tab.resize(tab.sizeHint());
         QCOMPARE(tab.isSelected(), indicator);
+        const auto faceColour = [&face] {
+            return QColor(BzThemeUtils::getColorSet(face).normal());
+        };
+        const QColor light = faceColour();
         const QImage image = rendered(&tab);
-        QCOMPARE(image.pixelColor(faceSpot(tab)).rgba(),
-                 QColor(BzThemeUtils::getColorSet(face).normal()).rgba());
+        QCOMPARE(image.pixelColor(faceSpot(tab)).rgba(), light.rgba());
         const QColor bar = image.pixelColor(tab.width() / 2, tab.height() - 1);
         QCOMPARE(bar.rgb() == colorOf("tab-default").rgb() && bar.alpha() == 255, indicator);
-    }
-
-    void followsTheme() {
-        KaTabItem tab(QStringLiteral("Chat"), kIcon);
-        tab.setSelected(true);
-        tab.resize(tab.sizeHint());
-        QCOMPARE(pixelAt(&tab, faceSpot(tab)).rgb(), colorOf("tab-active-background").rgb());
+        if (!indicator)
+            return;
         switchTheme("dark");
-        QTRY_COMPARE(pixelAt(&tab, faceSpot(tab)).rgb(), colorOf("tab-active-background").rgb());
-        QVERIFY(colorOf("tab-active-background", BzThemeUtils::Light) != colorOf("tab-active-background"));
+        QVERIFY(faceColour() != light);
+        QTRY_COMPARE(pixelAt(&tab, faceSpot(tab)).rgba(), faceColour().rgba());
     }
 
     void sizes() {
