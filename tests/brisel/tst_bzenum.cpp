@@ -1,3 +1,4 @@
+#include "apputils.h"
 #include "bzenum.h"
 
 #include <QGuiApplication>
@@ -50,6 +51,23 @@ private Q_SLOTS:
                  Qt::AlignRight | Qt::AlignAbsolute);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("unknown alignment 9")));
         QCOMPARE(BzEnum::toQtAlignment(BzEnum::Alignment(9)), Qt::Alignment(Qt::AlignCenter));
+    }
+
+    // AppUtils: which direction a widget, or the application, lays out in.
+    void rightToLeftOfWidgetOrApplication() {
+        QWidget parent;
+        QWidget* child = new QWidget(&parent);
+        QVERIFY(!AppUtils::isRTLLayoutDirection());
+        QVERIFY(!AppUtils::isRTLLayoutDirection(child));
+        // A widget's own (or inherited) direction wins over the application's, both ways.
+        parent.setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(AppUtils::isRTLLayoutDirection(child));
+        QVERIFY(!AppUtils::isRTLLayoutDirection());
+        QWidget ltr;
+        ltr.setLayoutDirection(Qt::LeftToRight);
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(!AppUtils::isRTLLayoutDirection(&ltr));
+        QVERIFY(AppUtils::isRTLLayoutDirection(nullptr));
     }
 };
 

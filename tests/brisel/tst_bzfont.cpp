@@ -1,5 +1,6 @@
 #include "bzfont.h"
 #include "bzfontmanager.h"
+#include "fontutils.h"
 
 #include <QFontInfo>
 #include <QRegularExpression>
@@ -66,6 +67,24 @@ private Q_SLOTS:
         // Nonsense scales fall back to the table size rather than to 0.
         QCOMPARE(BzFont::scaledPixelSizeOf(BzFont::Caption, 0.0), BzFont::pixelSizeOf(BzFont::Caption));
         QCOMPARE(BzFont::scaledPixelSizeOf(BzFont::Caption, qQNaN()), BzFont::pixelSizeOf(BzFont::Caption));
+    }
+
+    // FontUtils: fonts of the bundled family by pixel size.
+    void bundledFamilyAtAnySize() {
+        const QFont font = FontUtils::getFontByPixelSize(22, QFont::Bold);
+        QCOMPARE(font.pixelSize(), 22);
+        QCOMPARE(font.weight(), QFont::Bold);
+        QCOMPARE(QFontInfo(font).family(), BzFont::family());
+        QCOMPARE(FontUtils::getFontByPixelSize(FontUtils::SemiBold, 30).weight(), QFont::DemiBold);
+    }
+
+    void fontUtilsBadInputIsDefaulted() {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("pixel size 0 is too small")));
+        QCOMPARE(FontUtils::getFontByPixelSize(0).pixelSize(), 1);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("unknown font family 9")));
+        const QFont font = FontUtils::getFontByPixelSize(FontUtils::FontFamily(9), 12);
+        QCOMPARE(font.weight(), QFont::Normal);
+        QCOMPARE(font.pixelSize(), 12);
     }
 };
 

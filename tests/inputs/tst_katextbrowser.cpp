@@ -1,7 +1,11 @@
 #include "katextbrowser.h"
+#include "katextedit.h"
 
 #include <buttontestutils.h>
+#include <focusringtest.h>
 
+#include <QAccessible>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
@@ -70,6 +74,36 @@ private Q_SLOTS:
         QCOMPARE(rendered(&browser).pixelColor(0, 40), colorOf("separator-primary", BzThemeUtils::Dark));
         QCOMPARE(linkColour(browser), colorOf("button-hyperlink-text", BzThemeUtils::Dark));
         QCOMPARE(browser.palette().color(QPalette::Text), colorOf("label-primary-text", BzThemeUtils::Dark));
+    }
+
+    // KaTextEdit.
+    void textEditThemeSwitch() {
+        KaTextEdit edit;
+        edit.resize(200, 100);
+        QCOMPARE(rendered(&edit).pixelColor(100, 50), colorOf("textinput-background"));
+        QCOMPARE(rendered(&edit).pixelColor(0, 50), colorOf("textinput-border"));
+        switchTheme("dark");
+        QCoreApplication::processEvents();
+        QCOMPARE(rendered(&edit).pixelColor(100, 50), colorOf("textinput-background", BzThemeUtils::Dark));
+        QCOMPARE(edit.palette().color(QPalette::PlaceholderText),
+                 colorOf("textinput-placeholder-text", BzThemeUtils::Dark));
+        QVERIFY(edit.verticalScrollBar()->styleSheet().contains(
+            BzThemeUtils::colorToCss(colorOf("scrollbar-thumb-background", BzThemeUtils::Dark))));
+    }
+
+    void textEditFocusRingAroundFrame() {
+        FocusRingTest::installStyle("global-focus-outline");
+        QWidget window;
+        auto* edit = new KaTextEdit(&window);
+        edit->setGeometry(20, 20, 200, 100);
+        window.resize(260, 160);
+        QVERIFY(activated(window));
+        edit->setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(FocusRingTest::visibleRing(window));
+        QCOMPARE(FocusRingTest::visibleRing(window)->geometry(), QRect(17, 17, 206, 106));
+        QAccessibleInterface* a11y = QAccessible::queryAccessibleInterface(edit);
+        QCOMPARE(a11y->role(), QAccessible::EditableText);
+        QVERIFY(a11y->state().focused);
     }
 };
 

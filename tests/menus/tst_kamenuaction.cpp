@@ -4,8 +4,10 @@
 #include "kamenuitemdata.h"
 
 #include <QAccessible>
+#include <QEnterEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -96,6 +98,36 @@ private Q_SLOTS:
         QSignalSpy triggered(action, &QAction::triggered);
         QTest::mouseClick(item, Qt::LeftButton, {}, item->rect().center());
         QTRY_COMPARE(triggered.count(), 1);
+    }
+
+    // KaMenuItemContainer: entering the container or the wrapped widget
+    // reports hovering.
+    void containerHover() {
+        KaMenuItemContainer container;
+        auto* label = new QLabel(QStringLiteral("Custom"));
+        container.setWidget(label);
+        QCOMPARE(label->parentWidget(), &container);
+        QSignalSpy spy(&container, &KaMenuItemContainer::hovered);
+        QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+        QCoreApplication::sendEvent(label, &enter);
+        QCOMPARE(spy.count(), 1);
+        QCoreApplication::sendEvent(&container, &enter);
+        QCOMPARE(spy.count(), 2);
+    }
+
+    // A new widget replaces (and deletes) the old one, which is no longer
+    // watched; null empties the container.
+    void containerReplace() {
+        KaMenuItemContainer container;
+        QPointer<QLabel> first = new QLabel(QStringLiteral("First"));
+        container.setWidget(first);
+        auto* second = new QLabel(QStringLiteral("Second"));
+        container.setWidget(second);
+        QVERIFY(first.isNull());
+        QCOMPARE(container.widget(), second);
+        container.setWidget(nullptr);
+        QVERIFY(!container.widget());
+        QCOMPARE(container.focusPolicy(), Qt::NoFocus);
     }
 };
 

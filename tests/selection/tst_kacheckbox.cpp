@@ -1,4 +1,5 @@
 #include "kacheckbox.h"
+#include "karadiobutton.h"
 
 #include <buttontestutils.h>
 #include <focusringtest.h>
@@ -58,6 +59,40 @@ private Q_SLOTS:
         QVERIFY(a11y->state().checkStateMixed);
         box.setCheckState(Qt::Checked);
         QVERIFY(a11y->state().checked && !a11y->state().checkStateMixed);
+    }
+
+    // KaRadioButton.
+    void radioDotFollowsTheme() {
+        KaRadioButton radio(QStringLiteral("Automatic"));
+        radio.setChecked(true);
+        radio.resize(radio.sizeHint());
+        const QPoint dot(8, radio.height() / 2); // the circle's centre
+        QCOMPARE(rendered(&radio).pixelColor(dot), colorOf("radio-checked-icon"));
+        switchTheme("highContrast");
+        QCoreApplication::processEvents();
+        QCOMPARE(rendered(&radio).pixelColor(dot), colorOf("radio-checked-icon", BzThemeUtils::HighContrast));
+        radio.setAutoExclusive(false); // Qt keeps a lone exclusive radio button checked
+        radio.setChecked(false);
+        QCOMPARE(rendered(&radio).pixelColor(dot),
+                 colorOf("radio-unchecked-background", BzThemeUtils::HighContrast));
+    }
+
+    void radioMirroredRightToLeft() {
+        KaRadioButton radio(QStringLiteral("Automatic"));
+        radio.setChecked(true);
+        radio.setLayoutDirection(Qt::RightToLeft);
+        radio.resize(radio.sizeHint());
+        QCOMPARE(rendered(&radio).pixelColor(radio.width() - 8, radio.height() / 2),
+                 colorOf("radio-checked-icon"));
+    }
+
+    void radioAccessibleRole() {
+        KaRadioButton radio(QStringLiteral("Best picture"));
+        QAccessibleInterface* a11y = QAccessible::queryAccessibleInterface(&radio);
+        QCOMPARE(a11y->role(), QAccessible::RadioButton);
+        QCOMPARE(a11y->text(QAccessible::Name), QStringLiteral("Best picture"));
+        radio.setEnabled(false);
+        QVERIFY(a11y->state().disabled);
     }
 
     void focusRingRoundTheBox() {
