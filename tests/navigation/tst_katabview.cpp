@@ -12,7 +12,6 @@
 #include <QVBoxLayout>
 
 #include <QLabel>
-#include <buttontestutils.h>
 #include <memory>
 
 using namespace ButtonTest;
