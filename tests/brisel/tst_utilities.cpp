@@ -1,0 +1,448 @@
+#include "apputils.h"
+#include "baselistmodel.h"
+#include "bzenum.h"
+#include "drawutils.h"
+#include "testhelpers.h"
+
+#include <QAbstractItemModelTester>
+#include <QFont>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWidget>
+
+using BzTest::canvas;
+
+namespace {
+
+enum Roles { NameRole = Qt::UserRole + 1, CountRole, FlagRole };
+
+QHash<int, QByteArray> testRoles() {
+    return {{NameRole, "name"}, {CountRole, "count"}, {FlagRole, "flag"}};
+}
+
+QVariantMap row(const QString& name, int count = 0) {
+    return {{QStringLiteral("name"), name}, {QStringLiteral("count"), count}};
+}
+
+QString nameAt(const QAbstractItemModel& model, int i) {
+    return model.data(model.index(i, 0), NameRole).toString();
+}
+
+} // namespace
+
+class tst_Utilities : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+
+    void toDevicePixels_data() {
+        QTest::addColumn<qreal>("logical");
+        QTest::addColumn<qreal>("dpr");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("whole") << qreal(16) << qreal(2) << 32;
+        QTest::newRow("truncates") << qreal(15) << qreal(1.25) << 18;
+        QTest::newRow("truncates 1.75") << qreal(7) << qreal(1.75) << 12;
+        QTest::newRow("float noise below a whole") << qreal(45) << qreal(1.4) << 63;
+        QTest::newRow("fraction") << qreal(0.5) << qreal(1) << 0;
+        QTest::newRow("negative toward zero") << qreal(-1.5) << qreal(1) << -1;
+        QTest::newRow("half pixel at 1.5") << qreal(10.5) << qreal(1.5) << 15;
+    }
+    void toDevicePixels() {
+        QFETCH(qreal, logical);
+        QFETCH(qreal, dpr);
+        QFETCH(int, expected);
+        QCOMPARE(DrawUtils::toDevicePixels(logical, dpr), expected);
+        QCOMPARE(DrawUtils::toDevicePixels(QSizeF(logical, 2 * logical), dpr),
+                 QSize(expected, DrawUtils::toDevicePixels(2 * logical, dpr)));
+    }
+
+    void badRatioWarns() {
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("invalid device pixel ratio 0")));
+        QCOMPARE(DrawUtils::toDevicePixels(12.0, 0.0), 12);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("invalid device pixel ratio -2")));
+        QCOMPARE(DrawUtils::toDevicePixels(QSizeF(3, 4), -2.0), QSize(3, 4));
+    }
+
+    void createPixmap() {
+        const QPixmap pm = DrawUtils::createPixmap(QSizeF(15, 10), 1.25);
+        QCOMPARE(pm.size(), QSize(18, 12));
+        QCOMPARE(pm.devicePixelRatio(), 1.25);
+        QCOMPARE(qAlpha(pm.toImage().pixel(5, 5)), 0);
+        QVERIFY(DrawUtils::createPixmap(QSizeF(0.5, 10), 1.0).isNull());
+    }
+
+    void roundedRectPathCorners() {
+        const QPointF nearCorner[] = {{11, 21}, {109, 21}, {11, 69}, {109, 69}}; // TopLeft, TopRight, ...
+        for (int square = 0; square <= int(DrawUtils::AllCorners); ++square) {
+            const QPainterPath path =
+                DrawUtils::roundedRectPath(QRectF(10, 20, 100, 50), 10, DrawUtils::Corners(square));
+            // 1 px inside a corner is inside the shape only if that corner is square.
+            for (int c = 0; c < 4; ++c)
+                QVERIFY2(path.contains(nearCorner[c]) == bool(square & (1 << c)),
+                         qPrintable(QStringLiteral("corners %1, corner %2").arg(square).arg(c)));
+            QVERIFY(path.contains(QPointF(60, 45)));
+            QCOMPARE(path.boundingRect(), QRectF(10, 20, 100, 50));
+        }
+    }
+
+    void roundedRectPathClampsRadius() {
+        // A radius larger than half the height gives a pill, not a mess.
+        const QPainterPath pill = DrawUtils::roundedRectPath(QRectF(0, 0, 100, 20), 500);
+        QCOMPARE(pill.boundingRect(), QRectF(0, 0, 100, 20));
+        QVERIFY(pill.contains(QPointF(10, 10)));
+        QVERIFY(!pill.contains(QPointF(2, 2)));
+        QVERIFY(pill.contains(QPointF(50, 1)));
+        QVERIFY(DrawUtils::roundedRectPath(QRectF(0, 0, 10, 10), -4).contains(QPointF(0.5, 0.5)));
+        QVERIFY(DrawUtils::roundedRectPath(QRectF(0, 0, 0, 10), 2).isEmpty());
+    }
+
+    void roundedRectBorderIsCrisp_data() {
+        QTest::addColumn<qreal>("dpr");
+        QTest::addColumn<qreal>("borderWidth");
+        QTest::newRow("1px at 1") << qreal(1) << qreal(1);
+        QTest::newRow("2px at 1") << qreal(1) << qreal(2);
+        QTest::newRow("1px at 2") << qreal(2) << qreal(1);
+    }
+    void roundedRectBorderIsCrisp() {
+        QFETCH(qreal, dpr);
+        QFETCH(qreal, borderWidth);
+        const QColor fill(0, 200, 0);
+        const QColor border(200, 0, 0);
+        QImage image = canvas(QSize(40, 30), dpr);
+        {
+            QPainter p(&image);
+            DrawUtils::drawRoundedRect(&p, QRectF(5, 5, 30, 20), 4, fill, border, borderWidth);
+        }
+        const int b = int(borderWidth * dpr);
+        const int left = int(5 * dpr), right = int(35 * dpr) - 1, top = int(5 * dpr);
+        const int midX = int(20 * dpr), midY = int(15 * dpr);
+        // Whole border pixels inside the rectangle, nothing bleeding outside and
+        // no blend between border and fill.
+        for (int i = 0; i < b; ++i) {
+            QCOMPARE(image.pixelColor(left + i, midY), border);
+            QCOMPARE(image.pixelColor(right - i, midY), border);
+            QCOMPARE(image.pixelColor(midX, top + i), border);
+        }
+        QCOMPARE(image.pixelColor(left + b, midY), fill);
+        QCOMPARE(image.pixelColor(right - b, midY), fill);
+        QCOMPARE(image.pixelColor(midX, top + b), fill);
+        QCOMPARE(image.pixelColor(left - 1, midY).alpha(), 0);
+        QCOMPARE(image.pixelColor(right + 1, midY).alpha(), 0);
+        QCOMPARE(image.pixelColor(midX, top - 1).alpha(), 0);
+    }
+
+    void roundedRectFillAndCorners() {
+        QImage image = canvas(QSize(20, 20));
+        {
+            QPainter p(&image);
+            DrawUtils::drawRoundedRect(&p, QRectF(0, 0, 20, 20), 8, Qt::blue, QColor(), 0,
+                                       DrawUtils::BottomRight);
+        }
+        QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+        QCOMPARE(qAlpha(image.pixel(19, 0)), 0);
+        QCOMPARE(qAlpha(image.pixel(0, 19)), 0);
+        QCOMPARE(image.pixelColor(19, 19), QColor(Qt::blue));
+        QCOMPARE(image.pixelColor(10, 10), QColor(Qt::blue));
+
+        // Without a visible border the fill reaches the edge; without a fill
+        // nothing is painted inside.
+        image.fill(Qt::transparent);
+        {
+            QPainter p(&image);
+            DrawUtils::drawRoundedRect(&p, QRectF(0, 0, 10, 10), 0, QColor(9, 9, 9), QColor(255, 0, 0, 0), 2);
+            DrawUtils::drawRoundedRect(&p, QRectF(10, 10, 10, 10), 2, QColor(), QColor(1, 2, 3), 0);
+        }
+        QCOMPARE(image.pixelColor(0, 5), QColor(9, 9, 9));
+        QCOMPARE(qAlpha(image.pixel(15, 15)), 0);
+
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("without a painter")));
+        DrawUtils::drawRoundedRect(nullptr, QRectF(0, 0, 10, 10), 2, QColor(1, 2, 3), QColor(), 0);
+    }
+
+    void elidedText() {
+        // Qt elides; ours adds that no room means no text, not an ellipsis.
+        const QFontMetrics fm{QFont()};
+        const QString text = QStringLiteral("A fairly long line of text for eliding");
+        QCOMPARE(DrawUtils::elidedText(fm, text, Qt::ElideRight, 0), QString());
+        QCOMPARE(DrawUtils::elidedText(fm, text, Qt::ElideRight, -5), QString());
+        const int width = fm.horizontalAdvance(text) / 2;
+        QCOMPARE(DrawUtils::elidedText(fm, text, Qt::ElideLeft, width),
+                 fm.elidedText(text, Qt::ElideLeft, width));
+    }
+
+    void softShadowFadesOut() {
+        const QColor color(0, 0, 0, 200);
+        QImage image = canvas(QSize(100, 100));
+        QPainterPath path;
+        path.addRect(30, 30, 40, 40);
+        {
+            QPainter p(&image);
+            DrawUtils::drawSoftShadow(&p, path, color, 12);
+        }
+        // Full strength deep inside, fading monotonically across the edge, gone
+        // beyond the radius.
+        QCOMPARE(image.pixelColor(50, 50).rgb(), QColor(Qt::black).rgb());
+        QVERIFY(qAbs(qAlpha(image.pixel(50, 50)) - color.alpha()) <= 1);
+        int previous = 256;
+        for (int x = 50; x < 100; ++x) {
+            const int a = qAlpha(image.pixel(x, 50));
+            QVERIFY2(a <= previous, qPrintable(QStringLiteral("x=%1").arg(x)));
+            previous = a;
+        }
+        const int atEdge = qAlpha(image.pixel(70, 50));
+        QVERIFY(atEdge > 0 && atEdge < color.alpha());
+        QVERIFY(qAlpha(image.pixel(76, 50)) > 0);
+        QCOMPARE(qAlpha(image.pixel(83, 50)), 0);
+        QCOMPARE(qAlpha(image.pixel(50, 17)), 0);
+    }
+
+    void softShadowIsStable() {
+        QPainterPath path = DrawUtils::roundedRectPath(QRectF(10, 10, 30, 20), 6);
+        QImage first = canvas(QSize(50, 40), 2.0);
+        QImage second = canvas(QSize(50, 40), 2.0);
+        {
+            QPainter p(&first);
+            DrawUtils::drawSoftShadow(&p, path, QColor(10, 20, 30, 120), 6);
+        }
+        {
+            // The cached image drawn again, also after moving the shape.
+            QPainter p(&second);
+            p.translate(-5, 0);
+            DrawUtils::drawSoftShadow(&p, path.translated(5, 0), QColor(10, 20, 30, 120), 6);
+        }
+        QCOMPARE(second, first);
+        QVERIFY(qAlpha(first.pixel(2 * 25, 2 * 20)) > 100);
+    }
+
+    // BzEnum: alignments in Qt's terms.
+    void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+
+    void horAlignFollowsDirection_data() {
+        QTest::addColumn<int>("align");
+        QTest::addColumn<bool>("rtl");
+        QTest::addColumn<int>("expected");
+        const int abs = Qt::AlignAbsolute;
+        QTest::newRow("left ltr") << int(BzEnum::Left) << false << (int(Qt::AlignLeft) | abs);
+        QTest::newRow("left rtl") << int(BzEnum::Left) << true << (int(Qt::AlignRight) | abs);
+        QTest::newRow("right ltr") << int(BzEnum::Right) << false << (int(Qt::AlignRight) | abs);
+        QTest::newRow("right rtl") << int(BzEnum::Right) << true << (int(Qt::AlignLeft) | abs);
+        QTest::newRow("center rtl") << int(BzEnum::Center) << true << int(Qt::AlignHCenter);
+    }
+    void horAlignFollowsDirection() {
+        QFETCH(int, align);
+        QFETCH(bool, rtl);
+        QFETCH(int, expected);
+        const BzEnum::HorAlign a = BzEnum::HorAlign(align);
+        const Qt::LayoutDirection direction = rtl ? Qt::RightToLeft : Qt::LeftToRight;
+        QCOMPARE(int(BzEnum::toQtAlignment(a, direction)), expected);
+        // A widget's direction, or without one the application's, decides.
+        QWidget widget;
+        widget.setLayoutDirection(direction);
+        QCOMPARE(int(BzEnum::toQtAlignment(a, &widget)), expected);
+        QGuiApplication::setLayoutDirection(direction);
+        QCOMPARE(int(BzEnum::toQtAlignment(a, nullptr)), expected);
+    }
+
+    void alignmentToQt() {
+        QCOMPARE(BzEnum::toQtAlignment(BzEnum::AlignLeft), Qt::AlignLeft | Qt::AlignVCenter);
+        QCOMPARE(BzEnum::toQtAlignment(BzEnum::AlignBottom), Qt::AlignBottom | Qt::AlignHCenter);
+        QCOMPARE(BzEnum::toQtAlignment(BzEnum::AlignCenter), Qt::Alignment(Qt::AlignCenter));
+    }
+
+    void unknownValuesWarn() {
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("unknown horizontal alignment 9")));
+        QCOMPARE(BzEnum::toQtAlignment(BzEnum::HorAlign(9), Qt::RightToLeft),
+                 Qt::AlignRight | Qt::AlignAbsolute);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("unknown alignment 9")));
+        QCOMPARE(BzEnum::toQtAlignment(BzEnum::Alignment(9)), Qt::Alignment(Qt::AlignCenter));
+    }
+
+    // AppUtils: which direction a widget, or the application, lays out in.
+    void rightToLeftOfWidgetOrApplication() {
+        QWidget parent;
+        QWidget* child = new QWidget(&parent);
+        QVERIFY(!AppUtils::isRTLLayoutDirection());
+        QVERIFY(!AppUtils::isRTLLayoutDirection(child));
+        // A widget's own (or inherited) direction wins over the application's, both ways.
+        parent.setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(AppUtils::isRTLLayoutDirection(child));
+        QVERIFY(!AppUtils::isRTLLayoutDirection());
+        QWidget ltr;
+        ltr.setLayoutDirection(Qt::LeftToRight);
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(!AppUtils::isRTLLayoutDirection(&ltr));
+        QVERIFY(AppUtils::isRTLLayoutDirection(nullptr));
+    }
+
+    // BaseListModel.
+    void setData_data() {
+        QTest::addColumn<int>("role");
+        QTest::addColumn<QVariant>("value");
+        QTest::newRow("string") << int(NameRole) << QVariant(QStringLiteral("Ünïcode"));
+        QTest::newRow("int") << int(CountRole) << QVariant(42);
+        QTest::newRow("bool in a role the row lacks") << int(FlagRole) << QVariant(true);
+    }
+    void setData() {
+        QFETCH(int, role);
+        QFETCH(QVariant, value);
+        BaseListModel model(testRoles());
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.setRows({row(QStringLiteral("one"), 1), row(QStringLiteral("two"), 2)});
+        QSignalSpy spy(&model, &QAbstractItemModel::dataChanged);
+        const QModelIndex idx = model.index(1);
+        QVERIFY(model.setData(idx, value, role));
+        QCOMPARE(model.data(idx, role), value);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0).at(0).toModelIndex(), idx);
+        QCOMPARE(spy.at(0).at(1).toModelIndex(), idx);
+        QCOMPARE(spy.at(0).at(2).value<QList<int>>(), QList<int>{role});
+        // Stored under the role's name; the other row is untouched.
+        QCOMPARE(model.get(1).value(QString::fromUtf8(testRoles().value(role))), value);
+        QCOMPARE(model.getRows().at(0), row(QStringLiteral("one"), 1));
+        // The same value again is accepted without a signal.
+        QVERIFY(model.setData(idx, value, role));
+        QCOMPARE(spy.count(), 1);
+    }
+
+    void setDataRefusesBadInput() {
+        BaseListModel model(testRoles());
+        model.setRows({row(QStringLiteral("one"))});
+        QSignalSpy spy(&model, &QAbstractItemModel::dataChanged);
+        QVERIFY(!model.setData(QModelIndex(), 1, CountRole));
+        QVERIFY(!model.setData(model.index(0), 1, Qt::UserRole + 99));
+        QVERIFY(!model.setData(model.index(0), 1, Qt::DisplayRole)); // not one of this model's roles
+        QCOMPARE(spy.count(), 0);
+        QCOMPARE(model.get(0), row(QStringLiteral("one")));
+        QVERIFY(!model.data(model.index(0), Qt::UserRole + 99).isValid());
+        QVERIFY(!model.data(model.index(5), NameRole).isValid());
+    }
+
+    void insertAppendRemove() {
+        // The tester checks every insertion and removal signal against the rows.
+        BaseListModel model(testRoles());
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QSignalSpy countSpy(&model, &BaseListModel::countChanged);
+        model.appendRow(row(QStringLiteral("b")));
+        QVERIFY(model.insertRow(0, row(QStringLiteral("a"))));
+        model.appendRow(row(QStringLiteral("d")));
+        QVERIFY(model.insertRow(2, row(QStringLiteral("c"))));
+        QCOMPARE(countSpy.count(), 4);
+        for (int i = 0; i < 4; ++i)
+            QCOMPARE(nameAt(model, i), QString(QLatin1Char('a' + i)));
+        QVERIFY(model.removeRow(1));
+        QCOMPARE(countSpy.count(), 5);
+        QCOMPARE(nameAt(model, 1), QStringLiteral("c"));
+        QCOMPARE(model.property("count").toInt(), 3);
+    }
+
+    void outOfRangeIsRefused() {
+        BaseListModel model(testRoles());
+        model.setRows({row(QStringLiteral("a"))});
+        QSignalSpy countSpy(&model, &BaseListModel::countChanged);
+        const auto expectWarning = [](const char* text) {
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QString::fromLatin1(text)));
+        };
+        expectWarning("cannot insert a row at 5");
+        QVERIFY(!model.insertRow(5, row(QStringLiteral("x"))));
+        expectWarning("cannot insert a row at -1");
+        QVERIFY(!model.insertRow(-1, row(QStringLiteral("x"))));
+        expectWarning("cannot remove 1 rows at 1");
+        QVERIFY(!model.removeRow(1));
+        expectWarning("cannot remove 2 rows at 0");
+        QVERIFY(!model.remove(0, 2));
+        expectWarning("no row 3 in 1 rows");
+        QVERIFY(model.get(3).isEmpty());
+        expectWarning("no row 1 to replace");
+        QVERIFY(!model.setRow(1, row(QStringLiteral("x"))));
+        QCOMPARE(model.count(), 1);
+        QCOMPARE(countSpy.count(), 0);
+    }
+
+    void setRowsAndClearReset() {
+        BaseListModel model(testRoles());
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QSignalSpy resetSpy(&model, &QAbstractItemModel::modelReset);
+        QSignalSpy countSpy(&model, &BaseListModel::countChanged);
+        model.clear(); // already empty: nothing to announce
+        QCOMPARE(resetSpy.count(), 0);
+        const QList<QVariantMap> rows{row(QStringLiteral("a"), 1), row(QStringLiteral("b"), 2)};
+        model.setRows(rows);
+        QCOMPARE(model.getRows(), rows);
+        QCOMPARE(resetSpy.count(), 1);
+        QCOMPARE(countSpy.count(), 1);
+        // Same length: a reset, but the count did not change.
+        model.setRows({row(QStringLiteral("c")), row(QStringLiteral("d"))});
+        QCOMPARE(resetSpy.count(), 2);
+        QCOMPARE(countSpy.count(), 1);
+        QCOMPARE(nameAt(model, 1), QStringLiteral("d"));
+        model.clear();
+        QCOMPARE(model.rowCount(), 0);
+        QCOMPARE(resetSpy.count(), 3);
+        QCOMPARE(countSpy.count(), 2);
+    }
+
+    void setRowReportsChangedRoles() {
+        BaseListModel model(testRoles());
+        model.setRows({row(QStringLiteral("a"), 1)});
+        QSignalSpy spy(&model, &QAbstractItemModel::dataChanged);
+        QVERIFY(model.setRow(0, row(QStringLiteral("a"), 2)));
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0).at(2).value<QList<int>>(), QList<int>{CountRole});
+        QVERIFY(model.setRow(0, row(QStringLiteral("a"), 2)));
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(model.get(0), row(QStringLiteral("a"), 2));
+    }
+
+    void roleNamesResetAndDefault() {
+        BaseListModel model;
+        // No roles of its own: Qt's defaults, so a plain view can show "display".
+        QCOMPARE(model.roleNames().value(Qt::DisplayRole), QByteArray("display"));
+        model.setRows({{{QStringLiteral("display"), QStringLiteral("shown")}}});
+        QCOMPARE(model.data(model.index(0), Qt::DisplayRole).toString(), QStringLiteral("shown"));
+        QSignalSpy resetSpy(&model, &QAbstractItemModel::modelReset);
+        model.setRoleNames(testRoles());
+        QCOMPARE(resetSpy.count(), 1);
+        QCOMPARE(model.roleNames(), testRoles());
+        QVERIFY(!model.data(model.index(0), Qt::DisplayRole).isValid());
+        model.setRoleNames(testRoles());
+        QCOMPARE(resetSpy.count(), 1);
+    }
+
+    void genericInsertRemove() {
+        // Code that only knows QAbstractItemModel still works.
+        BaseListModel model(testRoles());
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QAbstractItemModel* generic = &model;
+        QVERIFY(generic->insertRows(0, 3));
+        QCOMPARE(model.count(), 3);
+        QVERIFY(generic->setData(generic->index(2, 0), QStringLiteral("z"), NameRole));
+        QVERIFY(generic->removeRows(0, 2));
+        QCOMPARE(model.count(), 1);
+        QCOMPARE(nameAt(model, 0), QStringLiteral("z"));
+        QVERIFY(generic->flags(generic->index(0, 0)).testFlag(Qt::ItemIsEditable));
+    }
+
+    void qmlInvokables() {
+        BaseListModel model(testRoles());
+        model.setRows({row(QStringLiteral("a"), 1), row(QStringLiteral("b"), 2)});
+        QVariantMap got;
+        QVERIFY(QMetaObject::invokeMethod(&model, "get", Q_RETURN_ARG(QVariantMap, got), Q_ARG(int, 1)));
+        QCOMPARE(got, row(QStringLiteral("b"), 2));
+        QVERIFY(QMetaObject::invokeMethod(&model, "appendRow", Q_ARG(QVariantMap, row(QStringLiteral("c")))));
+        bool removed = false;
+        QVERIFY(QMetaObject::invokeMethod(&model, "remove", Q_RETURN_ARG(bool, removed), Q_ARG(int, 0)));
+        QVERIFY(removed);
+        QCOMPARE(model.count(), 2);
+        QCOMPARE(nameAt(model, 1), QStringLiteral("c"));
+    }
+};
+
+QTEST_MAIN(tst_Utilities)
+#include "tst_utilities.moc"
