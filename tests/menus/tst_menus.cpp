@@ -64,7 +64,7 @@ void fill(KaMenu& menu, int count) {
 }
 
 // Pops `menu` up at `at` and waits until it shows.
-[[nodiscard]] bool opened(KaMenu& menu, const QPoint& at = QPoint(100, 100)) {
+template <typename Menu> [[nodiscard]] bool opened(Menu& menu, const QPoint& at = QPoint(100, 100)) {
     menu.popupAt(at);
     return QTest::qWaitFor([&menu] { return menu.isVisible(); });
 }
@@ -501,8 +501,7 @@ private Q_SLOTS:
         QAction* paste = menu.addAction(QStringLiteral("Paste"));
         QSignalSpy copySpy(copy, &QAction::triggered);
         QSignalSpy pasteSpy(paste, &QAction::triggered);
-        menu.popupAt(QPoint(50, 50));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu, QPoint(50, 50)));
         QCOMPARE(menu.activeAction(), copy);
         QTest::keyClick(&menu, Qt::Key_Down);
         QCOMPARE(menu.activeAction(), paste);
@@ -516,8 +515,7 @@ private Q_SLOTS:
         KaContextMenu menu;
         QAction* copy = menu.addAction(QStringLiteral("Copy"));
         QSignalSpy copySpy(copy, &QAction::triggered);
-        menu.popupAt(QPoint(50, 50));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu, QPoint(50, 50)));
         QTest::keyClick(&menu, Qt::Key_Escape);
         QTRY_VERIFY(!menu.isVisible());
         QCOMPARE(copySpy.count(), 0);
@@ -527,8 +525,7 @@ private Q_SLOTS:
         KaContextMenu menu;
         menu.addAction(QStringLiteral("Copy"));
         menu.addAction(QStringLiteral("Paste"));
-        menu.popupAt(QPoint(50, 50));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu, QPoint(50, 50)));
         // The frame's inside, left of the first entry's text.
         const QPoint inside(4, menu.height() / 2);
         const QColor light = BzTest::set("popover-primary-background").normal();
@@ -544,8 +541,7 @@ private Q_SLOTS:
         KaContextMenu menu;
         menu.addAction(QStringLiteral("Copy"));
         QAction* paste = menu.addAction(QStringLiteral("Paste"));
-        menu.popupAt(QPoint(50, 50));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu, QPoint(50, 50)));
         const QColor outer = BzTest::set("global-focus-outline").normal();
         const QRect geometry = menu.actionGeometry(paste);
         // The ring's solid outer line.
@@ -577,8 +573,7 @@ private Q_SLOTS:
         QAction* opener = menu.addMenu(sub);
         menu.addAction(QStringLiteral("Other"));
         menu.setFirstAction(opener);
-        menu.popupAt(QPoint(40, 40));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu, QPoint(40, 40)));
         QCOMPARE(menu.lastPopupPoint(), QPoint(40, 40));
         QCOMPARE(menu.activeAction(), opener);
         QVERIFY(!sub->isVisible());
@@ -593,8 +588,7 @@ private Q_SLOTS:
         QVERIFY(!menu.getFirstAction());
         QAction* three = menu.addAction(QStringLiteral("Three"));
         QCOMPARE(menu.getFirstAction(), three);
-        menu.popupAt(QPoint(10, 10));
-        QTRY_VERIFY(menu.isVisible());
+        QVERIFY(opened(menu, QPoint(10, 10)));
         QCOMPARE(menu.activeAction(), three);
     }
 

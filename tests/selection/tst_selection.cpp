@@ -6,9 +6,6 @@
 #include "kaslider.h"
 #include "testhelpers.h"
 
-#include <buttontestutils.h>
-#include <focusringtest.h>
-
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
