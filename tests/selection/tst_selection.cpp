@@ -529,7 +529,6 @@ private Q_SLOTS:
         delegate.setDrawIcon(true);
         const QRect box =
             inkBox(paintRow(delegate, combo.model()->index(1, 0), Qt::LayoutDirection(direction)));
-        QVERIFY(!box.isEmpty());
         QVERIFY2(box.left() >= left && box.right() <= right,
                  qPrintable(QStringLiteral("mark at %1..%2").arg(box.left()).arg(box.right())));
         QVERIFY(box.top() >= 11 && box.bottom() <= 29);
@@ -570,8 +569,7 @@ private Q_SLOTS:
         KaComboBoxDelegate delegate;
         delegate.setDrawIcon(drawIcon);
         const QRect text = inkBox(paintRow(delegate, model.index(0, 0), Qt::LeftToRight));
-        QVERIFY(!text.isEmpty());
-        QCOMPARE(text.left() >= 12, true);
+        QVERIFY(text.left() >= 12); // also not empty: an empty box starts at 0
         if (drawIcon)
             QVERIFY(text.right() < kRowWidth - 12);
         else
