@@ -655,7 +655,7 @@ private Q_SLOTS:
     void colorsOfEachTheme_data() {
         QTest::addColumn<QString>("theme");
         QTest::addColumn<bool>("opaque");
-        // The halo itself: tst_kafocusstyle's haloAlpha; here the flag reaches it.
+        // The halo itself: haloAlpha; here the flag reaches it.
         QTest::newRow("light") << QStringLiteral("light") << false;
         QTest::newRow("dark, opaque") << QStringLiteral("dark") << true;
         QTest::newRow("highContrast") << QStringLiteral("highContrast") << false;
@@ -727,7 +727,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("bottomRightPainted");
 
         QTest::newRow("square") << 0.0 << 0 << true << true;
-        // Every corner's bit: tst_kafocusstyle's cornerMask.
+        // Every corner's bit: cornerMask.
         QTest::newRow("rounded, top-left square") << 15.0 << 1 << true << false;
     }
 

@@ -584,7 +584,7 @@ private Q_SLOTS:
         QCOMPARE(BzTest::textColour(label).rgb(), BzTest::set("label-primary-text").normal().rgb());
     }
 
-    // Which sequences are one cluster and which have images: tst_kaemojiutils.
+    // Which sequences are one cluster and which have images: tst_karvexutils.
     void sequences_data() {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("images");

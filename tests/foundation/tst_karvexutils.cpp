@@ -205,7 +205,7 @@ private Q_SLOTS:
     }
 
     // A non-empty "css" is written again (unchanged); the slot is queued, once.
-    // (A widget deleted before its queued slot runs: tst_bzthemeutils.)
+    // (A widget deleted before its queued slot runs: tst_bzthememanager.)
     void updateThemes() {
         QFETCH(QVariant, css);
         QFETCH(bool, themed);
