@@ -409,6 +409,7 @@ private Q_SLOTS:
         QCOMPARE(css.count(), 0);
         QCOMPARE(counter.count, 0);
         BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
+        QCOMPARE(css.count(), 1);   // resolved during the switch
         QCOMPARE(counter.count, 1); // the colour in the extra text did change
         const QColor dark = set("button-primary-background").normal();
         QVERIFY(light.rgb() != dark.rgb());
