@@ -1,17 +1,31 @@
 #include "bzthememanager.h"
 #include "bzthemeutils.h"
 #include "kalabelbase.h"
+#include "kasvglabelbase.h"
 #include "testhelpers.h"
 
 #include <QAccessible>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
+
+using namespace BzTest;
 
 namespace {
 BzCSSData textRecord(const QString& set) {
     BzCSSData data;
     data.textColorSet = set;
     return data;
+}
+
+QColor centre(QWidget& w) {
+    const QImage image = w.grab().toImage();
+    return image.pixelColor(image.width() / 2, image.height() / 2);
+}
+
+// What the widget shows where no icon is painted.
+QColor corner(QWidget& w) {
+    return w.grab().toImage().pixelColor(0, 0);
 }
 } // namespace
 
@@ -139,6 +153,57 @@ private Q_SLOTS:
         QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Hello world"));
         label.setAccessibleName(QStringLiteral("Greeting"));
         QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Greeting"));
+    }
+
+    // KaSvgLabelBase: an icon tinted in a colour set.
+    void svgPaintsTintedIcon() {
+        KaSvgLabelBase label;
+        label.setSvgIcon(QStringLiteral("test-square"));
+        label.setSvgIconColorSet(QStringLiteral("label-error-text"));
+        label.resize(32, 32);
+        const BzColorSet errorText = set("label-error-text");
+        QCOMPARE(centre(label).rgb(), over(errorText.normal(), corner(label)).rgb());
+        label.setEnabled(false);
+        const QColor shown = centre(label);
+        const QColor expected = over(errorText.disabled(), corner(label));
+        QVERIFY2(near(shown, expected), qPrintable(shown.name() + QLatin1String(" vs ") + expected.name()));
+    }
+
+    void svgFollowsTheme() {
+        KaSvgLabelBase label;
+        label.setSvgIcon(QStringLiteral(":/Resources/test-square.svg"));
+        label.resize(label.sizeHint());
+        const QColor light = centre(label);
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark"));
+        QCoreApplication::processEvents(); // the queued onThemeChanged()
+        const QColor dark = set("label-primary-text").normal();
+        QVERIFY(light.rgb() != dark.rgb());
+        QCOMPARE(centre(label).rgb(), dark.rgb());
+    }
+
+    void svgSizeHintFollowsIcon() {
+        KaSvgLabelBase label;
+        QCOMPARE(label.sizeHint(), QSize(16, 16));
+        label.setSvgIconSize(QSize(24, 20));
+        label.setMargin(2);
+        QCOMPARE(label.sizeHint(), QSize(28, 24));
+        label.setSvgIconSize(QSize(-5, 8));
+        QCOMPARE(label.svgIconSize(), QSize(0, 8));
+    }
+
+    void svgMissingIconPaintsNothing() {
+        KaSvgLabelBase label;
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("no-such-icon")));
+        label.setSvgIcon(QStringLiteral("no-such-icon"));
+        label.resize(16, 16);
+        QCOMPARE(centre(label), corner(label));
+    }
+
+    void svgNotifiesOnce() {
+        KaSvgLabelBase label;
+        checkNotifiesOnce(label, KaSvgLabelBase::staticMetaObject,
+                          {{QStringLiteral("svgIcon"), QStringLiteral("test-square")},
+                           {QStringLiteral("svgIconColorSet"), QStringLiteral("label-error-text")}});
     }
 };
 

@@ -1,4 +1,7 @@
+#include "customfocusoverlay.h"
 #include "focusringtest.h"
+#include "kastyle.h"
+#include "testhelpers.h"
 
 #include <QApplication>
 #include <QCalendarWidget>
@@ -17,6 +20,12 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <QAction>
+#include <QMenu>
+#include <QPushButton>
+#include <bzcolorset.h>
+#include <bzthememanager.h>
+#include <bzthemeutils.h>
 #include <memory>
 
 namespace {
@@ -119,10 +128,6 @@ CustomFocusOverlay* overlayIn(const QWidget* root) {
     return overlays.isEmpty() ? nullptr : overlays.constLast();
 }
 
-CustomFocusOverlay* visibleOverlay(const QWidget* root) {
-    return FocusRingTest::visibleRing(*root);
-}
-
 // Focuses `target` as the keyboard does and asks for its ring.
 void ringOn(const QStyle& style, QWidget* target) {
     target->setFocus(Qt::TabFocusReason);
@@ -134,27 +139,60 @@ QRect grown(const QRect& rect, int margin) {
     return rect.marginsAdded(QMargins(margin, margin, margin, margin));
 }
 
-// Equal colour channels, give or take the rounding of a translucent pixel.
-bool sameHue(QRgb a, QRgb b) {
-    return qAbs(qRed(a) - qRed(b)) <= 2 && qAbs(qGreen(a) - qGreen(b)) <= 2 && qAbs(qBlue(a) - qBlue(b)) <= 2;
-}
-
 bool painted(const QImage& image, int x, int y) {
     return qAlpha(image.pixel(x, y)) > 0;
 }
 
+QImage render(CustomFocusOverlay* overlay) {
+    return overlay->grab().toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+QRgb colourOf(const QString& theme, const std::string& set) {
+    const auto sets = BzThemeManager::instance()->theme(theme).colorSets();
+    return sets.value(QString::fromStdString(set)).normal().rgba();
+}
+
+QRgb outerOf(const QString& theme) {
+    return colourOf(theme, kOuter);
+}
+
+QRgb innerOf(const QString& theme) {
+    return colourOf(theme, kInner);
+}
+
+// A base style whose every hint is recognisable.
+class NumberedHintStyle : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* = nullptr, const QWidget* = nullptr,
+                  QStyleHintReturn* = nullptr) const override {
+        return 1000 + int(hint);
+    }
+};
+
+// A base style whose menus neither activate on space nor search by typing.
+class PlainMenuStyle : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
+                  QStyleHintReturn* returnData = nullptr) const override {
+        if (hint == SH_Menu_SpaceActivatesItem || hint == SH_Menu_KeyboardSearch)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
 } // namespace
 
 class tst_KaFocusStyle : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void init() {
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
         qApp->setProperty("isKeyboardFocus", QVariant());
         m_window = std::make_unique<QWidget>();
     }
 
     void cleanup() {
         m_window.reset();
+        BzThemeManager::instance()->setCurrentTheme(QStringLiteral("light"));
         qApp->setProperty("isKeyboardFocus", QVariant());
         // Back to a plain style; this deletes any focus style a test installed.
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
@@ -298,7 +336,7 @@ private Q_SLOTS:
         showWindow();
         ringOn(style, target);
 
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
         CustomFocusOverlay* overlay = overlayIn(m_window.get());
         QCOMPARE(overlay->parentWidget(), m_window.get());
         QCOMPARE(overlay->geometry(),
@@ -315,7 +353,7 @@ private Q_SLOTS:
         // Without "hasCustomRect" the option's rectangle is ignored.
         const QRect part(10, 20, 60, 24);
         requestRing(style, target, QStyle::State_KeyboardFocusChange, part);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
         CustomFocusOverlay* overlay = overlayIn(m_window.get());
         QCOMPARE(overlay->geometry(), grown(target->geometry(), 5));
 
@@ -372,7 +410,7 @@ private Q_SLOTS:
         // Across the left edge at mid height: halo, solid outer line, inner line.
         const int y = 20;
         QCOMPARE(qAlpha(image.pixel(0, y)), haloAlpha);
-        QVERIFY(sameHue(image.pixel(0, y), outer.rgb()));
+        QVERIFY(BzTest::near(image.pixelColor(0, y), outer)); // give or take rounding
         QCOMPARE(image.pixel(1, y), outer.rgba());
         QCOMPARE(image.pixel(2, y), outer.rgba());
         QCOMPARE(image.pixel(3, y), inner.rgba());
@@ -439,7 +477,7 @@ private Q_SLOTS:
         QVERIFY(m_window->findChildren<CustomFocusOverlay*>().isEmpty());
         // And the style still works.
         ringOn(style, keep);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
         QCOMPARE(overlayIn(m_window.get())->geometry(), grown(keep->geometry(), 5));
     }
 
@@ -449,7 +487,7 @@ private Q_SLOTS:
         auto* other = new Target(m_window.get(), QRect(100, 10, 60, 30));
         showWindow();
         ringOn(*style, target);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
 
         // A focus change and a ring request still queued when the style goes.
         other->setFocus(Qt::TabFocusReason);
@@ -477,7 +515,7 @@ private Q_SLOTS:
         QCOMPARE(spy.count(), 0);
 
         ringOn(style, other);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
     }
 
     void focusMoveHidesRing() {
@@ -486,7 +524,7 @@ private Q_SLOTS:
         auto* second = new Target(m_window.get(), QRect(100, 10, 60, 30));
         showWindow();
         ringOn(style, first);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
         QPointer<CustomFocusOverlay> old = overlayIn(m_window.get());
 
         second->setFocus(Qt::TabFocusReason);
@@ -516,31 +554,22 @@ private Q_SLOTS:
         drainQueued();
         QTest::keyClick(m_window.get(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), second);
-        QTRY_VERIFY(visibleOverlay(m_window.get()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*m_window));
         QCOMPARE(overlayIn(m_window.get())->geometry(), grown(second->geometry(), 5));
     }
 
     // In a list view; tree views take the same path (and collapsing is
     // collapsedTreeItemHidesRing).
     void itemScrolledOutHidesRing() {
-        QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
         QStandardItemModel model;
         for (int i = 0; i < 200; ++i)
             model.appendRow(new QStandardItem(QStringLiteral("Item %1").arg(i)));
         auto* view = new QListView(m_window.get());
-        view->setModel(&model);
-        view->setItemDelegate(new ViewStyleObjectDelegate(view));
-        view->setGeometry(20, 20, 200, 150);
-        view->setProperty("hasCustomRect", true);
         view->setProperty("focusMargin", 0);
-        showWindow();
-        view->setCurrentIndex(model.index(2, 0));
-        view->setFocus(Qt::TabFocusReason);
-
+        focusItem(view, &model, model.index(2, 0));
         // Inside the view, around the current item.
-        QTRY_VERIFY(view->findChild<CustomFocusOverlay*>() &&
-                    view->findChild<CustomFocusOverlay*>()->isVisible());
-        CustomFocusOverlay* overlay = view->findChild<CustomFocusOverlay*>();
+        QTRY_VERIFY(FocusRingTest::visibleRing(*view));
+        CustomFocusOverlay* overlay = overlayIn(view);
         const QRect itemInView = view->visualRect(model.index(2, 0)).translated(view->viewport()->pos());
         QTRY_COMPARE(overlay->geometry().topLeft(), itemInView.topLeft());
         QCOMPARE(overlay->height(), itemInView.height());
@@ -561,26 +590,17 @@ private Q_SLOTS:
     }
 
     void collapsedTreeItemHidesRing() {
-        QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
         QStandardItemModel model;
         auto* parentItem = new QStandardItem(QStringLiteral("Parent"));
         for (int i = 0; i < 3; ++i)
             parentItem->appendRow(new QStandardItem(QStringLiteral("Child %1").arg(i)));
         model.appendRow(parentItem);
         auto* tree = new QTreeView(m_window.get());
-        tree->setModel(&model);
-        tree->setItemDelegate(new ViewStyleObjectDelegate(tree));
         tree->setHeaderHidden(true);
-        tree->setGeometry(20, 20, 200, 150);
-        tree->setProperty("hasCustomRect", true);
-        tree->expandAll();
-        showWindow();
         const QModelIndex child = model.index(1, 0, model.index(0, 0));
-        tree->setCurrentIndex(child);
-        tree->setFocus(Qt::TabFocusReason);
-        QTRY_VERIFY(tree->findChild<CustomFocusOverlay*>() &&
-                    tree->findChild<CustomFocusOverlay*>()->isVisible());
-        CustomFocusOverlay* overlay = tree->findChild<CustomFocusOverlay*>();
+        focusItem(tree, &model, child);
+        QTRY_VERIFY(FocusRingTest::visibleRing(*tree));
+        CustomFocusOverlay* overlay = overlayIn(tree);
 
         // Collapsing hides the row without moving the current index.
         tree->collapse(model.index(0, 0));
@@ -611,7 +631,7 @@ private Q_SLOTS:
         button->setFocus(Qt::TabFocusReason);
 
         // The ring lives on the viewport, clipped like the content.
-        QTRY_VERIFY(visibleOverlay(area->viewport()));
+        QTRY_VERIFY(FocusRingTest::visibleRing(*area->viewport()));
         CustomFocusOverlay* overlay = overlayIn(area->viewport());
         QCOMPARE(overlay->parentWidget(), area->viewport());
         const auto inViewport = [&] {
@@ -631,6 +651,185 @@ private Q_SLOTS:
         QVERIFY(overlay->isVisible());
     }
 
+    // CustomFocusOverlay: the ring itself, in the colours of each theme.
+    void colorsOfEachTheme_data() {
+        QTest::addColumn<QString>("theme");
+        QTest::addColumn<bool>("opaque");
+        // The halo itself: haloAlpha; here the flag reaches it.
+        QTest::newRow("light") << QStringLiteral("light") << false;
+        QTest::newRow("dark, opaque") << QStringLiteral("dark") << true;
+        QTest::newRow("highContrast") << QStringLiteral("highContrast") << false;
+    }
+
+    void colorsOfEachTheme() {
+        QFETCH(QString, theme);
+        QFETCH(bool, opaque);
+        QVERIFY(BzThemeManager::instance()->setCurrentTheme(theme));
+
+        CustomFocusOverlay overlay(kOuter, kInner, opaque);
+        QCOMPARE(overlay.objectName(), QStringLiteral("CustomFocusOverlay"));
+        overlay.resize(60, 30);
+        const QImage image = render(&overlay);
+        const QRgb outer = outerOf(theme);
+        const QRgb inner = innerOf(theme);
+        // The normal colours of the two sets differ in every theme, so the
+        // bands tell them apart.
+        QVERIFY(outer != inner);
+        QCOMPARE(image.pixel(2, 15), outer);
+        QCOMPARE(image.pixel(4, 15), inner);
+        QCOMPARE(qAlpha(image.pixel(0, 15)), opaque ? 255 : 77);
+        QCOMPARE(qAlpha(image.pixel(30, 15)), 0);
+    }
+
+    void themeChangeReresolves() {
+        QWidget window;
+        window.resize(200, 100);
+        auto* overlay = new CustomFocusOverlay(kOuter, kInner, false, &window);
+        overlay->setGeometry(10, 10, 60, 30);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("light")));
+
+        // The theme switch queues onThemeChanged() on every widget.
+        QVERIFY(BzThemeManager::instance()->setCurrentTheme(QStringLiteral("dark")));
+        QTRY_COMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("dark")));
+        QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("dark")));
+
+        // Switching without the refresh leaves the colours until told.
+        QVERIFY(BzThemeManager::instance()->setCurrentTheme(QStringLiteral("highContrast"),
+                                                            BzThemeManager::DataOnly));
+        QCoreApplication::processEvents();
+        QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("dark")));
+        overlay->onThemeChanged();
+        QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("highContrast")));
+        QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("highContrast")));
+    }
+
+    void followsThemeTypeOfParent() {
+        QWidget lightParent;
+        QWidget darkParent;
+        darkParent.setProperty("themeType", QStringLiteral("dark"));
+
+        auto* overlay = new CustomFocusOverlay(kOuter, kInner, false, &darkParent);
+        overlay->resize(60, 30);
+        QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("dark")));
+        QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("dark")));
+
+        overlay->setParent(&lightParent);
+        QCOMPARE(render(overlay).pixel(2, 15), outerOf(QStringLiteral("light")));
+        QCOMPARE(render(overlay).pixel(4, 15), innerOf(QStringLiteral("light")));
+    }
+
+    void radiusAndCornerMask_data() {
+        QTest::addColumn<double>("radius");
+        QTest::addColumn<int>("mask");
+        QTest::addColumn<bool>("topLeftPainted");
+        QTest::addColumn<bool>("bottomRightPainted");
+
+        QTest::newRow("square") << 0.0 << 0 << true << true;
+        // Every corner's bit: cornerMask.
+        QTest::newRow("rounded, top-left square") << 15.0 << 1 << true << false;
+    }
+
+    void radiusAndCornerMask() {
+        QFETCH(double, radius);
+        QFETCH(int, mask);
+        QFETCH(bool, topLeftPainted);
+        QFETCH(bool, bottomRightPainted);
+
+        CustomFocusOverlay overlay(kOuter, kInner, false);
+        overlay.resize(80, 40);
+        overlay.setRadius(radius);
+        overlay.setRectangularCornerMask(static_cast<unsigned char>(mask));
+        QCOMPARE(overlay.getRadius(), radius);
+        const QImage image = render(&overlay);
+        QCOMPARE(qAlpha(image.pixel(1, 1)) > 0, topLeftPainted);
+        QCOMPARE(qAlpha(image.pixel(78, 38)) > 0, bottomRightPainted);
+        QVERIFY(qAlpha(image.pixel(40, 2)) > 0);
+    }
+
+    void mouseGoesThrough() {
+        QWidget window;
+        window.resize(200, 100);
+        auto* button = new QPushButton(QStringLiteral("Below"), &window);
+        button->setGeometry(20, 20, 100, 40);
+        auto* overlay = new CustomFocusOverlay(kOuter, kInner, false, &window);
+        overlay->setGeometry(button->geometry().marginsAdded(QMargins(5, 5, 5, 5)));
+        overlay->show();
+        overlay->raise();
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.childAt(button->geometry().center()), button);
+
+        QSignalSpy clicked(button, &QPushButton::clicked);
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button->geometry().center());
+        QCOMPARE(clicked.count(), 1);
+        // Never takes focus either.
+        QVERIFY(!overlay->hasFocus());
+        QCOMPARE(overlay->focusPolicy(), Qt::NoFocus);
+    }
+
+    // KaStyle.
+    void hints_data() {
+        QTest::addColumn<int>("hint");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("space activates item") << int(QStyle::SH_Menu_SpaceActivatesItem) << 1;
+        QTest::newRow("keyboard search") << int(QStyle::SH_Menu_KeyboardSearch) << 1;
+        for (QStyle::StyleHint hint : {QStyle::SH_Menu_AllowActiveAndDisabled, QStyle::SH_Menu_Scrollable,
+                                       QStyle::SH_Menu_SubMenuPopupDelay, QStyle::SH_Menu_MouseTracking,
+                                       QStyle::SH_ToolTip_WakeUpDelay, QStyle::SH_ComboBox_Popup}) {
+            QTest::addRow("hint %d", int(hint)) << int(hint) << 1000 + int(hint);
+        }
+    }
+
+    void hints() {
+        QFETCH(int, hint);
+        QFETCH(int, expected);
+        KaStyle style(new NumberedHintStyle);
+        QCOMPARE(style.styleHint(QStyle::StyleHint(hint)), expected);
+    }
+
+    // Over a base that says no: menuKeys. Without a base, the application's.
+    void overridesWhateverTheBase() {
+        KaStyle overApplication;
+        QVERIFY(overApplication.baseStyle());
+        QCOMPARE(overApplication.styleHint(QStyle::SH_Menu_KeyboardSearch), 1);
+        QCOMPARE(overApplication.styleHint(QStyle::SH_Menu_SubMenuPopupDelay),
+                 overApplication.baseStyle()->styleHint(QStyle::SH_Menu_SubMenuPopupDelay));
+    }
+
+    // Same menu, same keys: only the style decides. Banana is active; space
+    // triggers it, typing "c" moves to Cherry.
+    void menuKeys_data() {
+        QTest::addColumn<bool>("useKaStyle");
+        QTest::addColumn<int>("key");
+        QTest::newRow("space, plain") << false << int(Qt::Key_Space);
+        QTest::newRow("space, KaStyle") << true << int(Qt::Key_Space);
+        QTest::newRow("search, plain") << false << int(Qt::Key_C);
+        QTest::newRow("search, KaStyle") << true << int(Qt::Key_C);
+    }
+
+    void menuKeys() {
+        QFETCH(bool, useKaStyle);
+        QFETCH(int, key);
+        std::unique_ptr<QStyle> style(useKaStyle ? static_cast<QStyle*>(new KaStyle(new PlainMenuStyle))
+                                                 : new PlainMenuStyle);
+        QMenu menu;
+        menu.setStyle(style.get());
+        menu.addAction(QStringLiteral("Apple"));
+        QAction* banana = menu.addAction(QStringLiteral("Banana"));
+        QAction* cherry = menu.addAction(QStringLiteral("Cherry"));
+        QSignalSpy triggered(banana, &QAction::triggered);
+        menu.popup(QPoint(10, 10));
+        QVERIFY(QTest::qWaitForWindowExposed(&menu));
+        menu.setActiveAction(banana);
+        QTest::keyClick(&menu, Qt::Key(key));
+        if (key == Qt::Key_Space)
+            QCOMPARE(triggered.count(), useKaStyle ? 1 : 0);
+        else
+            QCOMPARE(menu.activeAction(), useKaStyle ? cherry : banana);
+    }
+
 private:
     std::unique_ptr<QWidget> m_window;
 
@@ -639,6 +838,21 @@ private:
         m_window->show();
         QApplication::setActiveWindow(m_window.get());
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    // The application's focus style, `view` showing `model` with the ring
+    // around its items, `item` current and the view focused by the keyboard.
+    void focusItem(QAbstractItemView* view, QAbstractItemModel* model, const QModelIndex& item) {
+        QApplication::setStyle(new KaFocusStyle(kOuter, kInner, false, new UnderlineHintStyle(false)));
+        view->setModel(model);
+        view->setItemDelegate(new ViewStyleObjectDelegate(view));
+        view->setGeometry(20, 20, 200, 150);
+        view->setProperty("hasCustomRect", true);
+        if (auto* tree = qobject_cast<QTreeView*>(view))
+            tree->expandAll();
+        showWindow();
+        view->setCurrentIndex(item);
+        view->setFocus(Qt::TabFocusReason);
     }
 
     // Shows the window and focuses `target` as the keyboard does.
