@@ -34,10 +34,12 @@
 #include <QMetaEnum>
 #include <QPainter>
 #include <QSignalSpy>
+
 #include <QSvgRenderer>
 #include <QTest>
 #include <QTimer>
 #include <climits>
+#include <memory>
 
 using namespace ButtonTest;
 
@@ -416,6 +418,26 @@ private Q_SLOTS:
         QVERIFY(button.svgIcon().isEmpty());
         button.onThemeChanged();
         QCOMPARE(refreshes.count(), 1);
+    }
+
+    // A configuration follows one button: handed to a second one, it warns
+    // and refreshes only that one, also once the first is gone.
+    void configurationHandedOn() {
+        auto* config = new TestConfig;
+        auto first = std::make_unique<BareButton>(config);
+        QTest::ignoreMessage(
+            QtWarningMsg,
+            "IKaButton: the configuration already belongs to another button; it now follows this one");
+        BareButton second(config);
+        QSignalSpy firstRefreshes(first.get(), &IKaButton::refreshConfig);
+        QSignalSpy secondRefreshes(&second, &IKaButton::refreshConfig);
+        config->setCustomValue(2);
+        QCOMPARE(firstRefreshes.count(), 0);
+        QCOMPARE(secondRefreshes.count(), 1);
+        first.reset(); // owns the configuration as its Qt parent
+        QVERIFY(!second.buttonConfig());
+        second.setLeftIcon(QStringLiteral(":/Resources/check-regular.svg"));
+        QCOMPARE(secondRefreshes.count(), 1);
     }
 
     // KaHyperlinkButton.

@@ -549,7 +549,7 @@ private Q_SLOTS:
         QCOMPARE(rg.roundStart, false);
         QCOMPARE(rg.roundEnd, true);
         // Label alignment and the icon cell's size and arrow: through the
-        // widget, in tst_ikabutton's decodesCode.
+        // widget, in tst_buttons' decodesCode.
     }
 
     void iconStyleDecoding_data() {
@@ -604,7 +604,7 @@ private Q_SLOTS:
             firstSides[vertical ? 2 : 1] = false;
         QCOMPARE(fg.colors.hasBorder, firstSides);
         QCOMPARE(sg.colors.hasBorder, secondSides);
-        // The cells' sizes: through the widget, in tst_ikabutton's arrangement.
+        // The cells' sizes: through the widget, in tst_buttons' arrangement.
     }
 
     void cellGeometryBySize_data() { ButtonTest::addEnumRows<KaDualButtonEnum::Size>("size"); }

@@ -126,7 +126,7 @@ private Q_SLOTS:
             << QPoint(midX, screen.bottom() - 30) << KaPopupEnum::Top << KaPopupEnum::Top;
     }
 
-    // The flips themselves: tst_kapopuputils' showPointNearEdges.
+    // The flips themselves: tst_kapopover's showPointNearEdges.
     void flipsAtScreenEdges() {
         QFETCH(QPoint, anchorAt);
         QFETCH(KaPopupEnum::Alignment, requested);

@@ -657,7 +657,7 @@ private Q_SLOTS:
         QCOMPARE(bar.title(), QStringLiteral("Target"));
         QVERIFY(shown(other));
         // The bar's buttons act on the window it was given (each button's
-        // own action: tst_katitlebarbutton).
+        // own action: tst_buttons).
         QTest::mouseClick(bar.maximizeButton(), Qt::LeftButton);
         QTRY_VERIFY(other.isMaximized());
         QTest::mouseClick(bar.closeButton(), Qt::LeftButton);

@@ -560,6 +560,26 @@ private Q_SLOTS:
         QVERIFY(!popover.isVisible());
     }
 
+    // A window that goes while its popover is open takes the popover along.
+    void windowDeletedWithPopoverOpen_data() {
+        QTest::addColumn<bool>("moveWithSource");
+        QTest::newRow("stays put") << false;
+        QTest::newRow("moves with the anchor") << true;
+    }
+    void windowDeletedWithPopoverOpen() {
+        QFETCH(bool, moveWithSource);
+        auto* window = new QWidget;
+        window->setGeometry(QRect(screenArea().center(), QSize(100, 60)));
+        auto* anchor = new QPushButton(window);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        QPointer<KaPopover> popover = KaPopover::createAndShowTextPopover(
+            anchor, window, QStringLiteral("x"), KaWidgetData().moveWithSource(moveWithSource));
+        QVERIFY(popover && popover->isVisible());
+        delete window;
+        QVERIFY(popover.isNull());
+    }
+
     // KaWidgetData.
     void negativeTicksClamped() {
         QTest::ignoreMessage(QtWarningMsg, "KaWidgetData: negative dismiss timer ticks -2, using 0");
@@ -787,9 +807,8 @@ private Q_SLOTS:
         QVERIFY(KaToolTip::toolTipWidget()->styleSheet().isEmpty());
     }
 
-    // The margins and opposite sides are tables; what they place is checked
-    // below, by the show point and the bubble's pixels.
-    // KaPopupUtils.
+    // KaPopupUtils. The margins and opposite sides are tables; what they
+    // place is checked below, by the show point and the bubble's pixels.
     void showPointInTheOpen_data() {
         QTest::addColumn<Side>("side");
         QTest::addColumn<int>("offset");
