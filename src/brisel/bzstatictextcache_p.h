@@ -15,6 +15,6 @@ namespace BzStaticTextCache {
 const QStaticText& get(const QString& text, const QFont& font, Qt::LayoutDirection direction);
 
 // Entries kept; the least recently painted go first.
-constexpr int kCapacity = 512;
+constexpr int kCapacity = 1024;
 
 } // namespace BzStaticTextCache
